@@ -1,0 +1,76 @@
+#include "app/open_text_log.h"
+
+#include <algorithm>
+
+#include "app/chosen_log.h"
+#include "common/file_path.h"
+#include "common/procedure.h"
+#include "common/text.h"
+#include "platform/text_file.h"
+#include "readers/zlog_text.h"
+
+namespace veldrana {
+namespace {
+
+void refuse(Program& program) {
+    program.log.in_name = not_a_text_log;
+    program.log.f_type.reset();
+    program.screen.lblIn_name.fore_colour = colours::red;
+    program.screen.lblIn_name.caption = std::string(not_a_text_log);
+}
+
+void open_text_log(Program& program, const std::string& path) {
+    ChosenLog& log = program.log;
+    MainScreen& screen = program.screen;
+    if (path.empty()) {
+        screen.lblIn_name.fore_colour = colours::red;
+        return;
+    }
+    if (!has_backslash(path)) {
+        return;
+    }
+    log.in_name = path;
+    kettuka_disp_clear(program.counters, screen);
+    set_out_names(program);
+
+    TextInput file(program.disk, path);
+    std::string_view heading;  // an empty file has none, so none that fits
+    file.next_line(heading);
+    log.f_type = kind_of_extension(path);
+    if (!log.f_type || !heading.starts_with(heading_of(*log.f_type))) {
+        refuse(program);
+    }
+
+    const bool needs_year = log.f_type == InputKind::txt;
+    screen.txtYYYY.enabled = needs_year;
+    screen.Frame14.enabled = needs_year;
+    show_former_outputs(program);
+    check_readiness(program);
+}
+
+}  // namespace
+
+void mnuOpen_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub mnuOpen_Click()", [&] {
+        open_text_log(program, program.person.choose_file(
+                                   {.filter = "ﾃｷｽﾄﾌｧｲﾙ ( *.txt , *.all )|*.txt;*.all"}));
+    });
+}
+
+void mnuOpen_all_txt_set_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub mnuOpen_all_txt_set_Click()", [&] {
+        const std::string& folder = program.environment.all_dir;
+        open_text_log(program,
+                      program.person.choose_file(
+                          {.title = upper(folder) +
+                                    "　の ＊．ａｌｌ　または　＊．ｔｘｔ　 ファイルを  開く ....",
+                           .filter = "テキストファイル(*.all;*.txt)|*.all;*.txt|",
+                           .folder = folder}));
+    });
+}
+
+void cmdNow_Click(Program& program) {
+    program.screen.txtYYYY.text = std::string(left(date_text(program.clock.now()), 4));
+}
+
+}  // namespace veldrana

@@ -1,0 +1,21 @@
+// Owns how a zLog text log is chosen on the main screen.
+#pragma once
+
+#include <string_view>
+
+#include "app/program.h"
+
+namespace veldrana {
+
+// What the label of the log shows, and in_name holds, after a file that is no zLog text log.
+constexpr std::string_view not_a_text_log = "zlogのﾃｷｽﾄﾌｧｲﾙではありません！";
+
+// A file dialog wherever the last one ended.
+void mnuOpen_Click(Program& program);
+// A file dialog in the folder for these logs.
+void mnuOpen_all_txt_set_Click(Program& program);
+
+// Fills in the present year.
+void cmdNow_Click(Program& program);
+
+}  // namespace veldrana

@@ -1,0 +1,64 @@
+#include "app/program.h"
+
+#include <new>
+
+#include "app/conversion_driver.h"
+#include "app/open_text_log.h"
+#include "app/program_end.h"
+#include "common/procedure.h"
+
+namespace veldrana {
+
+Program::Program(const Ports& outside, std::string_view program_folder,
+                 std::string_view windows_folder)
+    : disk(outside.disk),
+      clock(outside.clock),
+      person(outside.person),
+      paths(make_paths(program_folder, windows_folder)) {
+    const auto attach = [this](CommandButton& button, void (*handler)(Program&)) {
+        button.Click = [this, handler] { event([this, handler] { handler(*this); }); };
+    };
+    attach(screen.mnuOpen, mnuOpen_Click);
+    attach(screen.mnuOpen_all_txt_set, mnuOpen_all_txt_set_Click);
+    attach(screen.tool_open, mnuOpen_all_txt_set_Click);
+    attach(screen.cmdStart, cmdStart_Click);
+    attach(screen.tool_convert, cmdStart_Click);
+    attach(screen.tool_end, End_Click);
+    attach(screen.cmdNow, cmdNow_Click);
+}
+
+bool Program::event(const std::function<void()>& body) {
+    if (ended_) {
+        return false;
+    }
+    if (in_event_) {
+        body();
+        return true;
+    }
+    in_event_ = true;
+    try {
+        body();
+    } catch (const ProgramEnd& end) {
+        ended_ = end.cause;
+    } catch (const RunTimeError& error) {
+        report(error);
+    } catch (const std::bad_alloc&) {
+        report(RunTimeError(Failure::out_of_memory));
+    } catch (const std::exception&) {
+        report(RunTimeError(Failure::internal));
+    }
+    in_event_ = false;
+    return !ended_;
+}
+
+void Program::report(RunTimeError error) {
+    // A failure that passed no procedure's trap gets its line here.
+    trace_failure(trace, "", ErrorLine::number_only, error);
+    try {
+        fatal_error_exit(trace, person, error);
+    } catch (const ProgramEnd& end) {
+        ended_ = end.cause;
+    }
+}
+
+}  // namespace veldrana

@@ -1,0 +1,27 @@
+#include "batch/batch_person.h"
+
+namespace veldrana {
+
+Answer BatchPerson::show(const MessageBox& box) {
+    if (!box.title.empty()) {
+        messages_ << box.title << '\n';
+    }
+    messages_ << box.text << '\n' << std::flush;
+    if (box.buttons == Buttons::ok) {
+        return Answer::ok;
+    }
+    if (answer_ != Answer::retry) {
+        return Answer::cancel;
+    }
+    if (box.text != retried_) {
+        retried_ = box.text;
+        retries_ = 0;
+    }
+    return ++retries_ > retry_limit ? Answer::cancel : Answer::retry;
+}
+
+std::string BatchPerson::choose_file(const FileDialog& /*dialog*/) {
+    return file_;
+}
+
+}  // namespace veldrana

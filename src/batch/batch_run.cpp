@@ -1,0 +1,146 @@
+#include "batch/batch_run.h"
+
+#include "app/program.h"
+#include "app/program_end.h"
+#include "app/start_up.h"
+#include "batch/batch_person.h"
+#include "platform/environment.h"
+#include "platform/host_disk.h"
+
+namespace veldrana {
+namespace {
+
+// A program with its ports, and what the command line asks of it.
+class BatchProgram {
+  public:
+    BatchProgram(const BatchOptions& options, const BatchOutput& output)
+        : output_(output),
+          disk_(options.drives, options.home),
+          person_(output.messages, options.answer),
+          program_({disk_, clock_, person_}, disk_.program_path(options.home),
+                   environment_variable("WINDIR")) {
+        program_.keep_work_files = options.keep_work;
+        if (output.show_progress) {
+            program_.screen.ProgressBar1.listener = [this] { show_progress(); };
+        }
+    }
+
+    Program& program() { return program_; }
+
+    bool knows_controls_of(const BatchOptions& options) {
+        for (const auto& [name, value] : options.settings) {
+            if (program_.screen.find(name) == nullptr) {
+                output_.messages << "そのような項目はありません: " << name << '\n';
+                return false;
+            }
+        }
+        return true;
+    }
+
+    // False if the program has ended meanwhile.
+    bool start() {
+        return program_.event([this] { Main(program_); });
+    }
+
+    // False if a control does not take its value.
+    bool enter(const BatchOptions& options) {
+        bool taken = true;
+        program_.event([&] {
+            for (const auto& [name, value] : options.settings) {
+                if (!program_.screen.find(name)->enter(value)) {
+                    output_.messages << "設定できない値です: " << name << "=" << value << '\n';
+                    taken = false;
+                    return;
+                }
+            }
+        });
+        return taken;
+    }
+
+    // Chooses the log as its menu entry does; false if it was refused or the program has ended.
+    bool open(const ConvertCommand& command) {
+        person_.choose(disk_.program_path(command.log));
+        program_.screen.mnuOpen.press();
+        if (program_.ended()) {
+            return false;
+        }
+        if (!program_.screen.cmdStart.enabled) {
+            output_.messages << program_.screen.lblIn_name.caption.get() << '\n';
+            return false;
+        }
+        if (command.kind && command.kind != program_.log.f_type) {
+            output_.messages << "指定された種類のファイルではありません: " << program_.log.in_name
+                             << '\n';
+            return false;
+        }
+        return true;
+    }
+
+    // Ends the program in order, unless it has ended.
+    void end() {
+        program_.event([this] { End_Click(program_); });
+    }
+
+    void write_counters() {
+        for (std::size_t row = 0; row < counter_labels.size(); ++row) {
+            output_.results << counter_labels[row] << '\t' << program_.counters.values[row] << '\n';
+        }
+        output_.results << std::flush;
+    }
+
+  private:
+    void show_progress() {
+        const ProgressBar& bar = program_.screen.ProgressBar1;
+        const std::size_t percent = bar.value * 100 / bar.maximum;
+        if (percent != shown_percent_) {
+            shown_percent_ = percent;
+            output_.messages << '\r' << percent << " %" << std::flush;
+        }
+    }
+
+    BatchOutput output_;
+    HostDisk disk_;
+    SystemClock clock_;
+    BatchPerson person_;
+    Program program_;
+    std::size_t shown_percent_ = 0;
+};
+
+}  // namespace
+
+ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
+                   const BatchOutput& output) {
+    BatchProgram batch(options, output);
+    if (!batch.knows_controls_of(options)) {
+        return exit_usage;
+    }
+    Program& program = batch.program();
+    // How a command ends early; a program that has ended by itself says how.
+    const auto ended_with = [&program](ExitStatus otherwise) {
+        return program.ended() == ProgramEnd::Cause::reported ? exit_reported : otherwise;
+    };
+    if (!batch.start()) {
+        return ended_with(exit_refused);
+    }
+    if (!batch.enter(options)) {
+        batch.end();
+        return ended_with(exit_usage);
+    }
+    if (!batch.open(command)) {
+        const ExitStatus status = ended_with(exit_refused);
+        batch.end();
+        return status;
+    }
+    program.screen.cmdStart.press();
+    if (program.ended()) {
+        return exit_reported;
+    }
+    const bool done = program.run_finished;
+    if (done) {
+        batch.write_counters();
+    }
+    batch.end();
+    return done ? exit_done : exit_refused;
+}
+
+}  // namespace veldrana

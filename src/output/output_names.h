@@ -1,0 +1,26 @@
+// Owns the names of the files that a run makes beside its log.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace veldrana {
+
+// Full paths. In the log's path "." and the extension are replaced by a suffix wherever they stand:
+// a folder whose name holds them is hit too. Kept: operators know their files by these names.
+struct OutputNames {
+    std::string out_name_conj0;     // _c0.csv
+    std::string out_name_hamj0;     // _h0.csv
+    std::string out_name_conj;      // _cj.csv
+    std::string out_name_hamj;      // _hj.csv
+    std::string out_name_conj_new;  // _cjn.csv, the contest file
+    std::string out_name_hamj_new;  // _hjn.csv, the log book file
+};
+
+OutputNames make_output_names(std::string_view in_name);
+
+// The dupe list of a log: the path up to its first point, which may stand in a folder's name, and
+// "dup" behind it.
+std::string dup_name(std::string_view in_name);
+
+}  // namespace veldrana

@@ -1,0 +1,34 @@
+#include "platform/disk.h"
+
+#include <vector>
+
+#include "common/file_path.h"
+
+namespace veldrana {
+
+std::size_t remove_matching(Disk& disk, std::string_view pattern) {
+    const std::vector<std::string> names = disk.names(pattern);
+    const std::string folder(split_path(pattern).folder);
+    for (const std::string& name : names) {
+        disk.remove(folder + name);
+    }
+    return names.size();
+}
+
+void copy_file(Disk& disk, std::string_view from, std::string_view to) {
+    constexpr std::size_t block_size = std::size_t{64} * 1024;
+    const std::unique_ptr<ByteSource> source = disk.open_for_reading(from);
+    const std::unique_ptr<ByteSink> sink = disk.open_for_writing(to, WriteMode::replace);
+    std::vector<char> block(block_size);
+    for (std::size_t count = source->read(block.data(), block.size()); count > 0;
+         count = source->read(block.data(), block.size())) {
+        sink->write({block.data(), count});
+    }
+    sink->close();
+}
+
+std::string time_text(Disk& disk, std::string_view path) {
+    return date_time_text(disk.modified(path));
+}
+
+}  // namespace veldrana

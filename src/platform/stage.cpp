@@ -1,0 +1,29 @@
+#include "platform/stage.h"
+
+#include <string>
+
+namespace veldrana {
+
+TextInput Stage::open_input(std::string_view path) const {
+    trace.write_open_for_input(path);
+    return {disk, path};
+}
+
+TextOutput Stage::open_output(std::string_view path) const {
+    trace.write_open_for_output(path);
+    return {disk, path};
+}
+
+void Stage::tell(std::string_view caption, Colour colour) const {
+    lblCFG.fore_colour = colour;
+    lblCFG.caption = std::string(caption);
+}
+
+std::size_t Stage::count_file_rec(std::string_view path, std::size_t beyond) const {
+    trace.write("count_file_rec " + std::string(path));
+    const std::size_t count = line_number_at_end(disk, path);
+    ProgressBar1.restart(count + beyond);
+    return count;
+}
+
+}  // namespace veldrana

@@ -1,0 +1,130 @@
+#include "platform/text_file.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+#include "common/run_time_error.h"
+#include "common/text.h"
+#include "platform/code_page_932.h"
+
+namespace veldrana {
+namespace {
+
+constexpr std::size_t block_size = std::size_t{256} * 1024;
+
+}  // namespace
+
+TextInput::TextInput(Disk& disk, std::string_view path)
+    : source_(disk.open_for_reading(path)), buffer_(block_size, '\0') {}
+
+bool TextInput::fill() {
+    if (exhausted_) {
+        return false;
+    }
+    if (begin_ > 0) {
+        std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+        end_ -= begin_;
+        begin_ = 0;
+    }
+    if (end_ == buffer_.size()) {
+        buffer_.resize(buffer_.size() * 2);
+    }
+    const std::size_t count = source_->read(buffer_.data() + end_, buffer_.size() - end_);
+    end_ += count;
+    exhausted_ = count == 0;
+    return count > 0;
+}
+
+bool TextInput::at_end() {
+    return begin_ == end_ && !fill();
+}
+
+bool TextInput::next_line(std::string_view& line) {
+    std::size_t searched = 0;  // bytes behind begin_ that hold no line end
+    std::size_t size = 0;
+    for (;;) {
+        const char* const start = buffer_.data() + begin_;
+        const void* const found = std::memchr(start + searched, '\n', end_ - begin_ - searched);
+        if (found != nullptr) {
+            size = static_cast<std::size_t>(static_cast<const char*>(found) - start);
+            break;
+        }
+        searched = end_ - begin_;
+        if (!fill()) {
+            size = searched;
+            break;
+        }
+    }
+    if (size == 0 && begin_ == end_) {
+        return false;
+    }
+    std::string_view bytes(buffer_.data() + begin_, size);
+    begin_ = std::min(begin_ + size + 1, end_);
+    if (bytes.ends_with('\r')) {
+        bytes.remove_suffix(1);
+    }
+    if (is_ascii(bytes)) {
+        line = bytes;
+    } else {
+        line_.clear();
+        append_from_code_page(line_, bytes);
+        line = line_;
+    }
+    return true;
+}
+
+TextOutput::TextOutput(Disk& disk, std::string_view path, WriteMode mode)
+    : sink_(disk.open_for_writing(path, mode)) {
+    buffer_.reserve(block_size);
+}
+
+TextOutput::~TextOutput() {
+    try {
+        close();
+    } catch (const RunTimeError&) {
+        return;  // whoever wants to know closes the file itself
+    }
+}
+
+void TextOutput::write_line(std::string_view line) {
+    append_to_code_page(buffer_, line);
+    buffer_ += "\r\n";
+    if (buffer_.size() >= block_size) {
+        flush();
+    }
+}
+
+void TextOutput::flush() {
+    // Emptied first: after a failure the same bytes must not be tried again at the end.
+    std::string bytes;
+    bytes.swap(buffer_);
+    if (sink_ != nullptr && !bytes.empty()) {
+        sink_->write(bytes);
+    }
+    bytes.clear();
+    buffer_.swap(bytes);
+}
+
+void TextOutput::close() {
+    if (sink_ == nullptr) {
+        return;
+    }
+    flush();
+    const std::unique_ptr<ByteSink> sink = std::move(sink_);
+    sink->close();
+}
+
+std::size_t line_number_at_end(Disk& disk, std::string_view path) {
+    const std::unique_ptr<ByteSource> source = disk.open_for_reading(path);
+    std::vector<char> block(block_size);
+    std::size_t line_ends = 0;
+    for (std::size_t count = source->read(block.data(), block.size()); count > 0;
+         count = source->read(block.data(), block.size())) {
+        line_ends += static_cast<std::size_t>(
+            std::count(block.begin(), block.begin() + static_cast<std::ptrdiff_t>(count), '\n'));
+    }
+    return line_ends + 1;
+}
+
+}  // namespace veldrana

@@ -1,0 +1,19 @@
+// Owns the kinds of input log that the program tells apart.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace veldrana {
+
+// f_type of a run.
+enum class InputKind {
+    all,  // zLog text, .ALL
+    txt,  // zLog text, .TXT
+};
+
+// The kind that a log's extension stands for; nothing for an extension of no log. To add a kind,
+// add it here, its reader beside the others, and its row to the input stage of the driver.
+std::optional<InputKind> kind_of_extension(std::string_view path);
+
+}  // namespace veldrana

@@ -1,0 +1,31 @@
+#include "rows/remark_slots.h"
+
+#include <vector>
+
+namespace veldrana {
+
+bool RemarkSlot::enter(std::string_view value) {
+    if (!value.empty() && !remark_item_named(value)) {
+        return false;
+    }
+    caption = std::string(value);
+    return true;
+}
+
+void sort_slots(RemarkSlots& slots, RemarkUse& use) {
+    std::vector<std::string> captions;
+    for (const RemarkSlot& slot : slots) {
+        if (!slot.caption.get().empty()) {
+            captions.push_back(slot.caption);
+        }
+    }
+    captions.resize(remark_slot_count);
+    for (std::size_t i = 0; i < remark_slot_count; ++i) {
+        slots[i].caption = captions[i];
+        if (const std::optional<RemarkItem> item = remark_item_named(captions[i])) {
+            use.mark(*item);
+        }
+    }
+}
+
+}  // namespace veldrana

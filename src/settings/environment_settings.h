@@ -1,0 +1,16 @@
+// Owns the paths that belong to the station rather than to a run.
+#pragma once
+
+#include <string>
+
+namespace veldrana {
+
+// Folders end in a backslash; empty: not set.
+struct EnvironmentSettings {
+    std::string all_dir;  // where the dialog for .ALL and .TXT logs starts
+    // The user texts of the log book, of which one may be used.
+    std::string Text_data_dir_A;
+    std::string Text_data_dir_B;
+};
+
+}  // namespace veldrana

@@ -1,0 +1,42 @@
+// Owns the eight items that remarks are composed of: their names on the screen, and which of them
+// have ever been in use.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace veldrana {
+
+enum class RemarkItem : std::size_t {
+    memo,
+    memo_equals,  // the memo with a leading "memo="
+    op,
+    op_percent,  // the operator between "%" and "%"
+    contest,
+    rcvd,
+    rmks1,
+    rmks2,
+};
+
+constexpr std::size_t remark_item_count = 8;
+
+// The names on the screen, in the items' order; a slot shows one of them or nothing.
+constexpr std::array<std::string_view, remark_item_count> remark_item_names{
+    "memo", "memo=", "OP", "OP %", "ｺﾝﾃｽﾄ", "Rcvd", "Rmks1", "Rmks2"};
+
+std::optional<RemarkItem> remark_item_named(std::string_view name);
+
+// Which items have stood in a slot at the start of some run since the program started: marks are
+// set and never taken back, so that readers go on extracting what was wanted once.
+class RemarkUse {
+  public:
+    bool in_use(RemarkItem item) const noexcept { return marks_[static_cast<std::size_t>(item)]; }
+    void mark(RemarkItem item) noexcept { marks_[static_cast<std::size_t>(item)] = true; }
+
+  private:
+    std::array<bool, remark_item_count> marks_{};
+};
+
+}  // namespace veldrana
