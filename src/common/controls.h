@@ -80,8 +80,9 @@ class Control {
     // Elements of a control array are named with their index: "lblRmks1(0)".
     const std::string& name() const noexcept { return name_; }
 
-    // Takes a value as a person would give it, with all that follows from it. False if a person
-    // could not give this value to this control.
+    // Takes a value as a person would give it, with all that follows from it. False if this control
+    // has no such value. Whether it is enabled at the moment is not looked at: options may be set
+    // in any order.
     virtual bool enter(std::string_view value);
 
     Property<bool> enabled{*this, true};

@@ -1,5 +1,7 @@
 #include "common/file_path.h"
 
+#include <algorithm>
+
 #include "common/text.h"
 
 namespace veldrana {
@@ -40,7 +42,7 @@ bool fits(std::string_view name, std::string_view pattern) {
 FilePath split_path(std::string_view path) noexcept {
     FilePath parts;
     parts.drive = path.size() > 1 && path[1] == ':' ? path.substr(0, 2) : std::string_view{};
-    const std::size_t name = path.rfind('\\') + 1;
+    const std::size_t name = std::max(path.find_last_of("\\/") + 1, parts.drive.size());
     parts.folder = path.substr(0, name);
     parts.name = path.substr(name);
     const std::size_t point = parts.name.rfind('.');
@@ -49,6 +51,10 @@ FilePath split_path(std::string_view path) noexcept {
         parts.extension = parts.name.substr(point + 1);
     }
     return parts;
+}
+
+bool is_possible_name(std::string_view name) noexcept {
+    return name.find_first_of(std::string_view(":*?\"<>|\0", 8)) == std::string_view::npos;
 }
 
 bool has_backslash(std::string_view path) noexcept {

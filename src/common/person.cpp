@@ -4,11 +4,10 @@ namespace veldrana {
 
 std::string spaced_lines(std::initializer_list<std::string_view> lines) {
     std::string text;
+    const char* separator = "";
     for (const std::string_view line : lines) {
-        if (!text.empty()) {
-            text += "\n\n";
-        }
-        text += line;
+        text.append(separator).append(line);
+        separator = "\n\n";
     }
     return text;
 }

@@ -1,5 +1,7 @@
 #include "common/quoted_fields.h"
 
+#include <algorithm>
+
 #include "common/text.h"
 
 namespace veldrana {
@@ -35,16 +37,23 @@ void assign_value(std::string& value, std::string_view field) {
 
 }  // namespace
 
-QuotedLine& QuotedLine::add(std::string_view field) {
-    line_ += line_.empty() ? "\"" : ",\"";
-    line_ += field;
-    line_ += '"';
-    return *this;
-}
-
-QuotedLine& QuotedLine::clear() noexcept {
-    line_.clear();
-    return *this;
+void QuotedLine::assign(std::span<const std::string_view> fields) {
+    // Every contact of every stage passes here: the room is made once, then only bytes are copied.
+    std::size_t size = 0;
+    for (const std::string_view field : fields) {
+        size += field.size() + 3;
+    }
+    line_.resize(size);
+    char* to = line_.data();
+    for (const std::string_view field : fields) {
+        *to++ = '"';
+        to = std::copy(field.begin(), field.end(), to);
+        *to++ = '"';
+        *to++ = ',';
+    }
+    if (!fields.empty()) {
+        line_.pop_back();
+    }
 }
 
 void split_quoted_fields(std::string_view line, std::vector<std::string>& fields) {

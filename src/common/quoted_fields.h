@@ -10,6 +10,7 @@
 // quote.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,8 @@ namespace veldrana {
 // Builds one line; keeps its memory from line to line.
 class QuotedLine {
   public:
-    QuotedLine& add(std::string_view field);
-    QuotedLine& clear() noexcept;
+    // Replaces what the line holds by these fields, which must not be views of it.
+    void assign(std::span<const std::string_view> fields);
     std::string_view text() const noexcept { return line_; }
 
   private:

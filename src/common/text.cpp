@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 
@@ -13,6 +14,16 @@
 
 namespace veldrana {
 namespace {
+
+constexpr std::size_t block_size = sizeof(std::uint64_t);
+constexpr std::uint64_t high_bits = 0x8080808080808080U;
+constexpr std::uint64_t block_of_blanks = 0x2020202020202020U;
+
+std::uint64_t block_at(std::string_view text, std::size_t offset) noexcept {
+    std::uint64_t block = 0;
+    std::memcpy(&block, text.data() + offset, block_size);
+    return block;
+}
 
 constexpr bool is_continuation(char byte) noexcept {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
@@ -24,10 +35,24 @@ void require_not_negative(Count count) {
     }
 }
 
+// How many bytes at the start of the text are ASCII, looking no further than `limit`. There a byte
+// is a character is a byte of the code page, so positions need no counting.
+std::size_t ascii_prefix(std::string_view text, std::size_t limit) noexcept {
+    const std::size_t end = std::min(text.size(), limit);
+    std::size_t offset = 0;
+    while (offset + block_size <= end && (block_at(text, offset) & high_bits) == 0) {
+        offset += block_size;
+    }
+    while (offset < end && static_cast<unsigned char>(text[offset]) < 0x80) {
+        ++offset;
+    }
+    return offset;
+}
+
 // The byte offset behind the first `count` characters.
 std::size_t offset_of(std::string_view text, std::size_t count) noexcept {
-    std::size_t offset = 0;
-    for (; count > 0 && offset < text.size(); --count) {
+    std::size_t offset = ascii_prefix(text, count);
+    for (count -= offset; count > 0 && offset < text.size(); --count) {
         offset += character_at(text, offset).size;
     }
     return offset;
@@ -40,16 +65,18 @@ std::size_t page_width(const Character& character) noexcept {
     return code < 0x80 || half_width_katakana || single_byte || !character.well_formed ? 1 : 2;
 }
 
-// The byte offset behind whole characters, taken until `enough` says so of the bytes passed.
-template <class Enough>
-std::size_t pass_characters(std::string_view text, std::size_t offset, Enough enough) noexcept {
-    std::size_t passed = 0;
-    while (offset < text.size()) {
+// The byte offset behind whole characters, as many as fit in `room` bytes of the code page or, to
+// cover it, one more.
+enum class Cover { fit, reach };
+std::size_t offset_of_bytes(std::string_view text, std::size_t room, Cover cover) noexcept {
+    std::size_t offset = ascii_prefix(text, room);
+    std::size_t passed = offset;
+    while (offset < text.size() && passed < room) {
         const Character character = character_at(text, offset);
-        if (enough(passed, page_width(character))) {
+        passed += page_width(character);
+        if (passed > room && cover == Cover::fit) {
             break;
         }
-        passed += page_width(character);
         offset += character.size;
     }
     return offset;
@@ -96,18 +123,15 @@ double radix_value(std::string_view digits, int base) {
 }  // namespace
 
 bool is_ascii(std::string_view text) noexcept {
-    constexpr std::size_t step = sizeof(std::uint64_t);
     std::size_t offset = 0;
     std::uint64_t bits = 0;
-    for (; offset + step <= text.size(); offset += step) {
-        std::uint64_t block = 0;
-        std::memcpy(&block, text.data() + offset, step);
-        bits |= block;
+    for (; offset + block_size <= text.size(); offset += block_size) {
+        bits |= block_at(text, offset);
     }
     for (; offset < text.size(); ++offset) {
         bits |= static_cast<unsigned char>(text[offset]);
     }
-    return (bits & 0x8080808080808080U) == 0;
+    return (bits & high_bits) == 0;
 }
 
 Character character_at(std::string_view text, std::size_t offset) noexcept {
@@ -167,11 +191,9 @@ std::string well_formed(std::string_view text) {
 }
 
 std::size_t length(std::string_view text) noexcept {
-    if (is_ascii(text)) {
-        return text.size();
-    }
-    std::size_t count = 0;
-    for (std::size_t offset = 0; offset < text.size(); ++count) {
+    std::size_t offset = ascii_prefix(text, text.size());
+    std::size_t count = offset;
+    for (; offset < text.size(); ++count) {
         offset += character_at(text, offset).size;
     }
     return count;
@@ -201,6 +223,9 @@ std::string_view mid(std::string_view text, Count start, Count count) {
 }
 
 std::size_t find(std::string_view text, std::string_view piece, std::size_t start) {
+    if (start < 1) {
+        throw RunTimeError(Failure::invalid_call);
+    }
     const std::size_t from = offset_of(text, start - 1);
     const std::size_t found = text.find(piece, from);
     return found == std::string_view::npos ? 0 : length(text.substr(0, found)) + 1;
@@ -235,7 +260,23 @@ std::string_view trim_left(std::string_view text) noexcept {
 }
 
 std::string_view trim_right(std::string_view text) noexcept {
-    return text.substr(0, text.find_last_not_of(' ') + 1);
+    // Fixed columns end in long runs of blanks.
+    std::size_t size = text.size();
+    if constexpr (std::endian::native == std::endian::little) {
+        while (size >= block_size) {
+            // The last byte of a block stands in its highest bits.
+            const std::uint64_t others = block_at(text, size - block_size) ^ block_of_blanks;
+            if (others != 0) {
+                return text.substr(0,
+                                   size - static_cast<std::size_t>(std::countl_zero(others)) / 8);
+            }
+            size -= block_size;
+        }
+    }
+    while (size > 0 && text[size - 1] == ' ') {
+        --size;
+    }
+    return text.substr(0, size);
 }
 
 std::string_view trim(std::string_view text) noexcept {
@@ -246,6 +287,9 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
     std::vector<std::string_view> pieces;
     if (text.empty()) {
         return pieces;
+    }
+    if (separator.empty()) {
+        return {text};
     }
     std::size_t from = 0;
     for (std::size_t found = text.find(separator); found != std::string_view::npos;
@@ -311,11 +355,9 @@ std::string right_aligned(Count number, std::size_t width) {
 }
 
 std::size_t LenMbcs(std::string_view text) noexcept {
-    if (is_ascii(text)) {
-        return text.size();
-    }
-    std::size_t width = 0;
-    for (std::size_t offset = 0; offset < text.size();) {
+    std::size_t offset = ascii_prefix(text, text.size());
+    std::size_t width = offset;
+    while (offset < text.size()) {
         const Character character = character_at(text, offset);
         width += page_width(character);
         offset += character.size;
@@ -325,17 +367,13 @@ std::size_t LenMbcs(std::string_view text) noexcept {
 
 std::string_view MidMbcs(std::string_view text, Count start) {
     const std::size_t before = start > 1 ? static_cast<std::size_t>(start) - 1 : 0;
-    return text.substr(pass_characters(
-        text, 0, [before](std::size_t passed, std::size_t) { return passed >= before; }));
+    return text.substr(offset_of_bytes(text, before, Cover::reach));
 }
 
 std::string_view MidMbcs(std::string_view text, Count start, Count count) {
     require_not_negative(count);
-    const auto room = static_cast<std::size_t>(count);
     const std::string_view rest = MidMbcs(text, start);
-    return rest.substr(0, pass_characters(rest, 0, [room](std::size_t passed, std::size_t width) {
-                           return passed + width > room;
-                       }));
+    return rest.substr(0, offset_of_bytes(rest, static_cast<std::size_t>(count), Cover::fit));
 }
 
 std::string fixed_width(std::string_view text, std::size_t width) {
@@ -344,11 +382,15 @@ std::string fixed_width(std::string_view text, std::size_t width) {
     return piece;
 }
 
+FixedColumns::FixedColumns(std::string_view line) noexcept
+    : line_(line), ascii_(ascii_prefix(line, line.size())) {}
+
 std::string_view FixedColumns::column(std::size_t start, std::size_t count) const {
-    if (!ascii_) {
-        return MidMbcs(line_, static_cast<Count>(start), static_cast<Count>(count));
+    const std::size_t before = start > 1 ? start - 1 : 0;
+    if (before <= ascii_ && count <= ascii_ - before) {
+        return line_.substr(before, count);
     }
-    return start > line_.size() ? std::string_view{} : line_.substr(start - 1, count);
+    return MidMbcs(line_, static_cast<Count>(start), static_cast<Count>(count));
 }
 
 }  // namespace veldrana

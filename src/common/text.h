@@ -52,7 +52,7 @@ std::string_view right(std::string_view text, Count count);
 std::string_view mid(std::string_view text, Count start);
 std::string_view mid(std::string_view text, Count start, Count count);
 // The position of the first occurrence at or behind start, 0 if there is none. An empty piece is
-// found at start.
+// found at start. Start below 1 is failure 5.
 std::size_t find(std::string_view text, std::string_view piece, std::size_t start = 1);
 
 // Every occurrence, from left to right, not looking back at what was put in. An empty piece
@@ -67,7 +67,7 @@ std::string_view trim(std::string_view text) noexcept;
 std::string_view trim_left(std::string_view text) noexcept;
 std::string_view trim_right(std::string_view text) noexcept;
 
-// The pieces between separators; an empty text has no piece.
+// The pieces between separators; an empty text has no piece. An empty separator divides nothing.
 std::vector<std::string_view> split(std::string_view text, std::string_view separator);
 
 // The text up to its first NUL.
@@ -76,9 +76,10 @@ std::string_view until_nul(std::string_view text) noexcept;
 // --- numbers ---
 
 // The number at the start of a text as BASIC reads it: blanks, tabs and line ends are skipped
-// wherever they stand, then sign, digits, one point, an exponent by E or D, or &H and &O with a
-// 16- or 32-bit result; reading stops at the first character that does not fit. No number is 0;
-// one that no double holds is failure 6.
+// wherever they stand, then sign, digits, one point, an exponent by E or D; reading stops at the
+// first character that does not fit. &H and &O, without a sign, give 16 or, if that is too few,
+// 32 bits with sign: &HFFFF is -1; a trailing "&" asks for 32 bits: &HFFFF& is 65535. No number is
+// 0; one that is too large for its form is failure 6.
 double val(std::string_view text);
 
 // The number right aligned in a width; a longer one is not cut.
@@ -99,11 +100,11 @@ std::string_view MidMbcs(std::string_view text, Count start, Count count);
 // character at the cut becomes a blank. For writing fixed columns.
 std::string fixed_width(std::string_view text, std::size_t width);
 
-// A line in fixed columns: MidMbcs for many columns of one line. A line of ASCII alone, which is
-// nearly every line of a log, is cut without looking at characters. Keeps a view of the line.
+// A line in fixed columns: MidMbcs for many columns of one line. Columns in the ASCII part at the
+// line's start, nearly all of a log's, are cut without counting. Keeps a view of the line.
 class FixedColumns {
   public:
-    explicit FixedColumns(std::string_view line) noexcept : line_(line), ascii_(is_ascii(line)) {}
+    explicit FixedColumns(std::string_view line) noexcept;
 
     std::string_view column(std::size_t start, std::size_t count) const;
     std::string_view trimmed(std::size_t start, std::size_t count) const {
@@ -112,7 +113,7 @@ class FixedColumns {
 
   private:
     std::string_view line_;
-    bool ascii_;
+    std::size_t ascii_;  // bytes of the part
 };
 
 }  // namespace veldrana

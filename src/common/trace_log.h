@@ -20,7 +20,7 @@ class TraceLog {
 
     // Fixes where the log will be: what the error report names, also if the log cannot be opened.
     void set_path(std::string path);
-    // Takes over the open file.
+    // Takes over the open file; a log that is open already is given up for it.
     void open(std::unique_ptr<LineSink> sink);
 
     bool is_open() const noexcept { return sink_ != nullptr; }

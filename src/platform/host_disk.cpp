@@ -83,10 +83,6 @@ bool can_be_written(const fs::path& folder) {
 #endif
 }
 
-bool is_possible_name(std::string_view name) {
-    return name.find_first_of(std::string_view(":*?\"<>|\0", 8)) == std::string_view::npos;
-}
-
 bool is_there(const fs::path& path) {
     std::error_code error;
     return fs::exists(path, error);
@@ -95,6 +91,12 @@ bool is_there(const fs::path& path) {
 bool is_folder(const fs::path& path) {
     std::error_code error;
     return fs::is_directory(path, error);
+}
+
+// Also by way of a link.
+bool is_host_root(const fs::path& folder) {
+    std::error_code error;
+    return fs::equivalent(folder, folder.root_path(), error);
 }
 
 std::vector<std::string> names_in(const fs::path& folder) {
@@ -288,7 +290,11 @@ std::optional<HostDisk::Place> HostDisk::place_of(std::string_view path) const {
         if (!is_possible_name(name)) {
             return std::nullopt;
         }
-        if (!name.empty()) {
+        if (name == "..") {
+            if (!place.names.empty()) {
+                place.names.pop_back();
+            }
+        } else if (!name.empty() && name != ".") {
             place.names.emplace_back(name);
         }
         rest.remove_prefix(std::min(end + 1, rest.size()));
@@ -298,7 +304,7 @@ std::optional<HostDisk::Place> HostDisk::place_of(std::string_view path) const {
 
 std::optional<HostDisk::HostPath> HostDisk::substitute_root(const Place& place) const {
     const bool in_a_root = place.letter != 0 && place.names.size() == 1;
-    const bool host_root = place.drive_folder == place.drive_folder.root_path();
+    const bool host_root = is_host_root(place.drive_folder);
     if (!in_a_root || program_folder_.empty()) {
         return std::nullopt;
     }
@@ -389,7 +395,8 @@ std::unique_ptr<ByteSource> HostDisk::open_for_reading(std::string_view path) {
 
 std::unique_ptr<ByteSink> HostDisk::open_for_writing(std::string_view path, WriteMode mode) {
     const HostPath file = target(path);
-    if (is_folder(file)) {
+    // Also where a file would go elsewhere: the program must not see a file and a folder in one.
+    if (is_folder(file) || folder_exists(path)) {
         throw RunTimeError(Failure::path_or_file_access);
     }
     // The folder that stands for a root is made when it is first needed.

@@ -12,19 +12,19 @@ namespace veldrana {
 constexpr std::string_view log_line_file = "zlog_1.txt";
 
 struct LogLine {
-    std::string_view year;
-    std::string_view month;
-    std::string_view day;
-    std::string_view time;  // HHMM, in the time of the log
-    std::string_view call;  // as logged, with any portable part
-    std::string_view report_sent;
-    std::string_view report_received;
-    std::string_view band;  // in MHz
-    std::string_view mode;  // as it stands in the log, with blanks behind it
-    std::string_view op;
-    std::string_view memo;
-    std::string_view frequency;  // in MHz, or empty
-    std::string_view number_received;
+    std::string_view year = {};
+    std::string_view month = {};
+    std::string_view day = {};
+    std::string_view time = {};  // HHMM, in the time of the log
+    std::string_view call = {};  // as logged, with any portable part
+    std::string_view report_sent = {};
+    std::string_view report_received = {};
+    std::string_view band = {};  // in MHz
+    std::string_view mode = {};  // as it stands in the log, with blanks behind it
+    std::string_view op = {};
+    std::string_view memo = {};
+    std::string_view frequency = {};  // in MHz, or empty
+    std::string_view number_received = {};
 };
 
 // Replaces what the line holds by the fields of the contact.

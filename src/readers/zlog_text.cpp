@@ -44,6 +44,7 @@ struct Form {
 
 constexpr std::string_view dupe_mark = "-DUPE-";
 constexpr std::string_view operator_mark = "%%";
+constexpr std::string_view memo_prefix = "memo=";
 
 bool holds(std::string_view text, char byte) {
     return text.find(byte) != std::string_view::npos;
@@ -239,16 +240,20 @@ std::string get_freq_all(std::string_view line) {
     }
     std::string_view piece = line.substr(open + 1);
     piece = piece.substr(0, piece.find('('));
-    const std::string without_close = replace_all(piece, ")", "");
+    const std::string without_close = replace_all(trim_right(piece), ")", "");
     const std::string_view kilohertz = trim(without_close);
     const auto size = static_cast<Count>(length(kilohertz));
     if (size < 4 || size > 7) {
         return {};
     }
-    std::string frequency(left(kilohertz, size - 3));
-    frequency.append(".").append(right(kilohertz, 3));
-    // A frequency given in MHz brings its own point.
-    return replace_all(frequency, "..", ".");
+    const std::string_view megahertz = left(kilohertz, size - 3);
+    std::string frequency(megahertz);
+    frequency.append(".").append(kilohertz.substr(megahertz.size()));
+    if (holds(kilohertz, '.')) {
+        // A frequency given in MHz brings its own point.
+        return replace_all(frequency, "..", ".");
+    }
+    return frequency;
 }
 
 std::string_view get_op_all(std::string_view line) {
@@ -265,25 +270,36 @@ std::string_view get_op_all(std::string_view line) {
 }
 
 std::string get_memo_all(std::string_view line, InputKind kind, const RemarkUse& use) {
-    const std::string whole = replace_all(line, dupe_mark, "");
+    std::string without_mark;
+    std::string_view whole = line;
+    if (line.find(dupe_mark) != std::string_view::npos) {
+        whole = without_mark = replace_all(line, dupe_mark, "");
+    }
     const auto size = static_cast<Count>(length(whole));
     const Count columns = (kind == InputKind::all ? all_form : txt_form).in_front_of_memo;
     if (size == columns) {
         return {};
     }
-    std::string_view area = right(whole, size - columns);
+    if (size < columns) {
+        throw RunTimeError(Failure::invalid_call);
+    }
+    // Blanks at the end never reach the memo, whatever is taken out of the area.
+    std::string_view area = trim_right(mid(whole, columns + 1));
     if (const std::size_t mark = area.rfind(operator_mark); mark != std::string_view::npos) {
         area = trim(area.substr(mark + operator_mark.size()));
     }
-    std::string memo(area);
-    if (const std::size_t open = area.find('('); open != std::string_view::npos) {
+    std::string memo;
+    const std::size_t open = area.find('(');
+    if (open == std::string_view::npos) {
+        memo = area;
+    } else {
         // Without a ")" the whole text stands behind the blank once more; kept.
         const std::size_t close = area.find(')');
-        memo.assign(area.substr(0, open)).append(" ");
+        memo.append(area.substr(0, open)).append(" ");
         memo.append(close == std::string_view::npos ? area : area.substr(close + 1));
     }
     if (use.in_use(RemarkItem::memo_equals) && !trim(memo).empty()) {
-        memo.insert(0, "memo=");
+        memo.insert(0, memo_prefix);
     }
     return std::string(trim(memo));
 }

@@ -8,10 +8,10 @@
 namespace veldrana {
 namespace {
 
-// Upper case, backslashes single, none at the end.
+// Upper case, separators single backslashes, none at the end.
 std::string key_of(std::string_view path) {
     std::string key;
-    for (const char byte : upper(path)) {
+    for (const char byte : replace_all(upper(path), "/", "\\")) {
         if (byte != '\\' || !key.ends_with('\\')) {
             key += byte;
         }
@@ -30,7 +30,11 @@ std::string folder_key(std::string_view path) {
 
 class MemoryDisk::Source : public ByteSource {
   public:
-    explicit Source(std::shared_ptr<File> file) : file_(std::move(file)) {}
+    explicit Source(std::shared_ptr<File> file) : file_(std::move(file)) { ++file_->readers; }
+    Source(const Source&) = delete;
+    Source& operator=(const Source&) = delete;
+    ~Source() override { --file_->readers; }
+
     std::size_t read(char* into, std::size_t room) override {
         const std::size_t count = file_->bytes.copy(into, room, at_);
         at_ += count;
@@ -44,12 +48,22 @@ class MemoryDisk::Source : public ByteSource {
 
 class MemoryDisk::Sink : public ByteSink {
   public:
-    explicit Sink(std::shared_ptr<File> file) : file_(std::move(file)) {}
+    explicit Sink(std::shared_ptr<File> file) : file_(std::move(file)) { ++file_->writers; }
+    Sink(const Sink&) = delete;
+    Sink& operator=(const Sink&) = delete;
+    ~Sink() override { Sink::close(); }
+
     void write(std::string_view bytes) override { file_->bytes += bytes; }
-    void close() override {}
+    void close() override {
+        if (open_) {
+            open_ = false;
+            --file_->writers;
+        }
+    }
 
   private:
     std::shared_ptr<File> file_;
+    bool open_ = true;
 };
 
 void MemoryDisk::put(std::string_view path, std::string bytes) {
@@ -58,18 +72,31 @@ void MemoryDisk::put(std::string_view path, std::string bytes) {
 }
 
 void MemoryDisk::put_folder(std::string_view path) {
-    for (std::string key = key_of(path); !key.empty(); key = folder_key(key)) {
-        folders_.insert(key);
+    // Up to the drive, whose folder is itself.
+    for (std::string key = key_of(path); !key.empty() && folders_.insert(key).second;) {
+        key = folder_key(key);
     }
 }
 
 const MemoryDisk::File& MemoryDisk::require(std::string_view path) const {
     const auto found = files_.find(key_of(path));
     if (found == files_.end()) {
-        throw RunTimeError(folders_.contains(folder_key(path)) ? Failure::file_not_found
-                                                               : Failure::path_not_found);
+        require_place(path);
+        throw RunTimeError(Failure::file_not_found);
     }
     return *found->second;
+}
+
+void MemoryDisk::require_place(std::string_view path) const {
+    if (!is_possible_name(split_path(path).name)) {
+        throw RunTimeError(Failure::bad_file);
+    }
+    if (folders_.contains(key_of(path))) {
+        throw RunTimeError(Failure::path_or_file_access);
+    }
+    if (!folders_.contains(folder_key(path))) {
+        throw RunTimeError(Failure::path_not_found);
+    }
 }
 
 std::string MemoryDisk::bytes(std::string_view path) const {
@@ -98,26 +125,27 @@ bool MemoryDisk::folder_exists(std::string_view path) {
 }
 
 void MemoryDisk::make_folder(std::string_view path) {
-    if (!folders_.contains(folder_key(path))) {
-        throw RunTimeError(Failure::path_not_found);
-    }
-    if (!folders_.insert(key_of(path)).second) {
+    require_place(path);
+    if (file_exists(path)) {
         throw RunTimeError(Failure::path_or_file_access);
     }
+    folders_.insert(key_of(path));
 }
 
 std::unique_ptr<ByteSource> MemoryDisk::open_for_reading(std::string_view path) {
-    require(path);
+    if (require(path).writers > 0) {
+        throw RunTimeError(Failure::already_open);
+    }
     return std::make_unique<Source>(files_[key_of(path)]);
 }
 
 std::unique_ptr<ByteSink> MemoryDisk::open_for_writing(std::string_view path, WriteMode mode) {
-    if (!folders_.contains(folder_key(path))) {
-        throw RunTimeError(Failure::path_not_found);
-    }
+    require_place(path);
     std::shared_ptr<File>& file = files_[key_of(path)];
     if (file == nullptr) {
         file = std::make_shared<File>(File{std::string(path), {}, {}});
+    } else if (file->readers > 0 || file->writers > 0) {
+        throw RunTimeError(Failure::already_open);
     } else if (mode == WriteMode::replace) {
         file->bytes.clear();
     }

@@ -40,11 +40,15 @@ class MemoryDisk : public Disk {
         std::string path;  // as it was first written
         std::string bytes;
         LocalTime modified;
+        int readers = 0;
+        int writers = 0;
     };
     class Source;
     class Sink;
 
     const File& require(std::string_view path) const;
+    // Fails where no file of that name can be written.
+    void require_place(std::string_view path) const;
 
     std::map<std::string, std::shared_ptr<File>> files_;  // by their keys
     std::set<std::string> folders_;

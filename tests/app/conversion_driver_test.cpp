@@ -1,0 +1,305 @@
+#include "app/conversion_driver.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/app/program_kit.h"
+
+namespace veldrana {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+class ConversionDriver : public testing::Test {
+  protected:
+    ConversionDriver() {
+        kit.put_text("C:\\log\\x.all", sample_all_log);
+        kit.start();
+        kit.open("C:\\log\\x.all");
+    }
+    // The captions that lblCFG shows one after the other, each with its colour.
+    void watch_state() {
+        screen.lblCFG.listener = [this] {
+            const std::pair<std::string, Colour> now{screen.lblCFG.caption,
+                                                     screen.lblCFG.fore_colour};
+            states.push_back(now);
+        };
+    }
+    ProgramKit kit;
+    Program& program = *kit.program;
+    MainScreen& screen = kit.screen();
+    std::vector<std::pair<std::string, Colour>> states;
+};
+
+TEST_F(ConversionDriver, ARunLeavesTheIntermediateFileBesideTheLog) {
+    screen.cmdStart.press();
+    EXPECT_FALSE(program.ended());
+    EXPECT_TRUE(program.run_finished);
+    EXPECT_TRUE(kit.memory.file_exists("C:\\log\\zlog_1.txt"));
+    EXPECT_TRUE(screen.mnuQSOBank.enabled);
+    EXPECT_EQ(kit.memory.bytes("C:\\log\\x.all"), sample_all_log);
+}
+
+TEST_F(ConversionDriver, TraceTellsTheRunStepByStep) {
+    const std::size_t before = kit.trace_lines().size();
+    screen.cmdStart.press();
+    std::vector<std::string> lines = kit.trace_lines();
+    lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(before));
+    EXPECT_THAT(
+        lines,
+        ElementsAre("", "Private Sub cmdStart_Click()",
+                    "**********************************************",
+                    "Private sub cmdStart_Click()_0", "-----------------------",
+                    "入力ファイル ：C:\\log\\x.all", "入 力 件 数　：件",
+                    "Private Sub cmdStart_1()", "Private Sub cmd_henkan()",
+                    "Private Sub count_in_name()", "Private Sub henkan_at_2_t()",
+                    "Private Sub a_2_t()", "count_file_rec C:\\log\\x.all",
+                    "Open C:\\log\\x.all For Input As #f_i",
+                    "Open C:\\log\\zlog_1.txt For Output As #f_o", "     中間ファイル削除開始",
+                    "     中間ファイル削除終了", "     Private Sub cmd_henkan() 終了",
+                    "Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了",
+                    "Private Sub cmdStart_1() kettuka_disp", "正常終了"));
+}
+
+TEST_F(ConversionDriver, SecondRunTracesTheCountAndTheSettings) {
+    kit.put_text("C:\\veldrana\\Veldrana_new.ini", "[Veldrana_new.ini]\r\n");
+    screen.cmdStart.press();
+    screen.cmdStart.press();
+    EXPECT_THAT(kit.trace_lines(), Contains("入 力 件 数　：   2件"));
+    EXPECT_THAT(kit.trace_lines(), Contains("=========  Veldrana_new.ini  ==== 変換時 ======="));
+}
+
+TEST_F(ConversionDriver, CountOfRecordsIsShownRightAligned) {
+    screen.cmdStart.press();
+    EXPECT_EQ(screen.lblIn_rec.caption.get(), "   2 件");
+}
+
+TEST_F(ConversionDriver, CountBeyondFourPlacesIsNotCut) {
+    std::string log(sample_all_log.substr(0, sample_all_log.find('\n') + 1));
+    for (int i = 0; i < 12345; ++i) {
+        log += "x\r\n";
+    }
+    kit.put_text("C:\\log\\x.all", log);
+    kit.open("C:\\log\\x.all");
+    screen.cmdStart.press();
+    EXPECT_EQ(screen.lblIn_rec.caption.get(), "12345 件");
+}
+
+TEST_F(ConversionDriver, StatesFollowEachOtherInTheirColours) {
+    screen.Check15.value = false;
+    watch_state();
+    screen.cmdStart.press();
+    const auto shown = [&](const char* caption, Colour colour) {
+        return Contains(testing::Pair(caption, colour));
+    };
+    EXPECT_THAT(states, shown("処 理 開 始", colours::green));
+    EXPECT_THAT(states, shown("入力ファイル読み込み中", colours::green));
+    EXPECT_THAT(states, Not(shown("該当するデータは有りませんでした。", colours::red)));
+    EXPECT_EQ(states.back(), std::pair(std::string("処 理 終 了"), colours::blue));
+}
+
+// The count of kept lines is zeroed at the end of the conversion, so the warning comes every time.
+TEST_F(ConversionDriver, WithCheck15TheRedMessageShowsEvenWhenLinesWereKept) {
+    screen.txtOp_name.text = "JA1ZZZ";
+    watch_state();
+    screen.cmdStart.press();
+    EXPECT_THAT(states, Contains(testing::Pair("該当するデータは有りませんでした。", colours::red)));
+    EXPECT_EQ(screen.Check15.fore_colour.get(), colours::red);
+    EXPECT_EQ(screen.txtOp_name.fore_colour.get(), colours::red);
+    EXPECT_THAT(kit.memory.bytes("C:\\log\\zlog_1.txt"), HasSubstr("JA1ZZA"));
+    EXPECT_THAT(kit.memory.bytes("C:\\log\\zlog_1.txt"), Not(HasSubstr("JR8YYX")));
+}
+
+TEST_F(ConversionDriver, NameOfTheOperatorIsTrimmed) {
+    screen.txtOp_name.text = "  JA1ZZY ";
+    screen.cmdStart.press();
+    EXPECT_THAT(kit.memory.bytes("C:\\log\\zlog_1.txt"), HasSubstr("JR8YYX"));
+    EXPECT_THAT(kit.memory.bytes("C:\\log\\zlog_1.txt"), Not(HasSubstr("JA1ZZA")));
+}
+
+TEST_F(ConversionDriver, UndecidedUserTextStopsBeforeAnythingHasChanged) {
+    program.environment.Text_data_dir_A = "C:\\Hamlog\\a.txt";
+    program.environment.Text_data_dir_B = "C:\\Hamlog\\b.txt";
+    screen.Check8.value = true;
+    screen.cmdStart.press();
+    ASSERT_THAT(kit.person.boxes, SizeIs(1));
+    EXPECT_EQ(kit.person.boxes[0].text, "どちらのユーザーテキストファイルか選択して下さい！");
+    EXPECT_FALSE(program.run_finished);
+    EXPECT_TRUE(screen.cmdStart.enabled);
+    EXPECT_FALSE(kit.memory.file_exists("C:\\log\\zlog_1.txt"));
+    EXPECT_FALSE(screen.ProgressBar1.visible);
+}
+
+TEST_F(ConversionDriver, ADecidedUserTextDoesNotStop) {
+    program.environment.Text_data_dir_A = "C:\\Hamlog\\a.txt";
+    program.environment.Text_data_dir_B = "C:\\Hamlog\\b.txt";
+    screen.Check8.value = true;
+    screen.Check4_B.value = true;
+    screen.cmdStart.press();
+    EXPECT_TRUE(program.run_finished);
+}
+
+TEST_F(ConversionDriver, OneUserTextAloneNeedsNoDecision) {
+    program.environment.Text_data_dir_A = "C:\\Hamlog\\a.txt";
+    screen.Check8.value = true;
+    screen.cmdStart.press();
+    EXPECT_TRUE(program.run_finished);
+}
+
+TEST_F(ConversionDriver, OptionsOfOneRunAreClearedBehindIt) {
+    screen.Check27.value = true;
+    screen.Check28.value = true;
+    screen.cmdStart.press();
+    EXPECT_FALSE(screen.Check27.value);
+    EXPECT_FALSE(screen.Check28.value);
+}
+
+TEST_F(ConversionDriver, StartIsDisabledWhileItRuns) {
+    bool enabled_while_reading = true;
+    screen.ProgressBar1.listener = [&] {
+        if (screen.ProgressBar1.value.get() == 1) {
+            enabled_while_reading = screen.cmdStart.enabled || screen.tool_convert.enabled;
+        }
+    };
+    screen.cmdStart.press();
+    EXPECT_FALSE(enabled_while_reading);
+    EXPECT_TRUE(screen.cmdStart.enabled);
+    EXPECT_TRUE(screen.tool_convert.enabled);
+}
+
+TEST_F(ConversionDriver, ResultsAreEnabledAndTheResultTabIsShown) {
+    kit.put_text("C:\\log\\x.dup", "");
+    screen.cmdStart.press();
+    for (const Control* const control : std::initializer_list<const Control*>{
+             &screen.mnuDisp_con_n, &screen.mnuDisp_ham_n, &screen.cmdDisp_contest,
+             &screen.cmdDisp_Hamlog, &screen.mnuDisp_dup, &screen.tool_dup, &screen.mnuJARL,
+             &screen.mnuJARL_Web_OK, &screen.mnuJARL_Web_NO, &screen.mnuJARL_Web_OK_conj,
+             &screen.mnuJARL_Web_OK_hamj, &screen.mnuJARL_Web_NO_conj,
+             &screen.mnuJARL_Web_NO_hamj}) {
+        EXPECT_TRUE(control->enabled) << control->name();
+    }
+    EXPECT_EQ(screen.SSTab1.tab.get(), 3);
+    EXPECT_FALSE(screen.ProgressBar1.visible);
+}
+
+TEST_F(ConversionDriver, DupeListEntryFollowsItsFile) {
+    screen.cmdStart.press();
+    EXPECT_FALSE(screen.mnuDisp_dup.enabled);
+    EXPECT_FALSE(screen.tool_dup.enabled);
+}
+
+TEST_F(ConversionDriver, ScratchFilesOfTheDriveAreDeletedAndThoseOfTheLogStay) {
+    for (const char* const name :
+         {"C:\\zlog_9.txt", "C:\\temp_d.csv", "C:\\temp_s.csv", "C:\\SORT-IN.DAT",
+          "C:\\sort-out.dat", "C:\\sort-out2.dat", "C:\\bak_1.txt", "C:\\bak_12.txt",
+          "C:\\semp_s.csv", "C:\\semp_d.csv", "C:\\uemp_s.csv", "C:\\temp_sj.csv",
+          "C:\\log\\zlog_01.txt", "C:\\log\\hamlogja_0.csv", "C:\\veldrana\\bak_qso.mas",
+          "C:\\veldrana\\Temp_Files\\bak_qso.HDX"}) {
+        kit.put_text(name, "x");
+    }
+    for (const char* const name : {"C:\\log\\zlog_2.txt", "C:\\bak_123.txt", "C:\\other.csv",
+                                   "C:\\veldrana\\Temp_Files\\bak_qso.mas1"}) {
+        kit.put_text(name, "x");
+    }
+    screen.cmdStart.press();
+    std::vector<std::string> files = kit.memory.files();
+    std::erase(files, program.trace.path());
+    EXPECT_THAT(files, testing::UnorderedElementsAre(
+                           "C:\\bak_123.txt", "C:\\log\\x.all", "C:\\log\\zlog_1.txt",
+                           "C:\\log\\zlog_2.txt", "C:\\other.csv",
+                           "C:\\veldrana\\Temp_Files\\bak_qso.mas1"));
+}
+
+TEST_F(ConversionDriver, ShortLineWithMemoInUseEndsInTheReport) {
+    kit.put_text("C:\\log\\x.all", std::string(sample_all_log) + "too short\r\n");
+    kit.open("C:\\log\\x.all");
+    screen.lblRmks2[3].caption = "memo";
+    screen.cmdStart.press();
+    EXPECT_EQ(program.ended(), ProgramEnd::Cause::reported);
+    ASSERT_THAT(kit.person.boxes, SizeIs(2));
+    EXPECT_EQ(kit.person.boxes[0].title, "　　エラー発生の為、　終了します！");
+    EXPECT_THAT(kit.person.boxes[0].text, HasSubstr("エラー発生 ：　5"));
+    const std::vector<std::string> lines = kit.trace_lines();
+    EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                            [](const std::string& line) {
+                                return line.find("エラー発生") != std::string::npos;
+                            }),
+              1);
+    EXPECT_THAT(lines, Contains("エラー発生 ：　5"));
+    EXPECT_THAT(lines.back(), testing::StartsWith("エラー内容 ：　"));
+}
+
+TEST_F(ConversionDriver, FailureOutsideTheReaderNamesItsProcedure) {
+    kit.memory.remove("C:\\log\\x.all");
+    screen.cmdStart.press();
+    EXPECT_THAT(kit.trace_lines(), Contains("エラー発生  Private Sub count_in_name() ：　53"));
+}
+
+TEST_F(ConversionDriver, NothingHappensAfterTheProgramHasEnded) {
+    kit.memory.remove("C:\\log\\x.all");
+    screen.cmdStart.press();
+    kit.person.boxes.clear();
+    screen.enable_start(true);
+    screen.cmdStart.press();
+    EXPECT_THAT(kit.person.boxes, IsEmpty());
+}
+
+// Whatever fails, the run ends in the report, never in a crash, and the log stays as it was.
+TEST(ConversionDriverFaults, EveryOperationMayFail) {
+    std::size_t operations = 0;
+    {
+        ProgramKit kit;
+        kit.put_text("C:\\log\\x.all", sample_all_log);
+        kit.start();
+        kit.open("C:\\log\\x.all");
+        const std::size_t before = kit.disk.operations();
+        kit.screen().cmdStart.press();
+        operations = kit.disk.operations() - before;
+    }
+    ASSERT_GT(operations, 20U);
+    for (std::size_t n = 1; n <= operations; ++n) {
+        ProgramKit kit;
+        kit.put_text("C:\\log\\x.all", sample_all_log);
+        kit.start();
+        kit.open("C:\\log\\x.all");
+        kit.disk.fail_at(n, Failure::disk_full);
+        kit.screen().cmdStart.press();
+        EXPECT_EQ(kit.program->ended(), ProgramEnd::Cause::reported) << "operation " << n;
+        ASSERT_THAT(kit.person.boxes, SizeIs(2)) << "operation " << n;
+        EXPECT_THAT(kit.person.boxes[0].text, HasSubstr("エラー発生 ：　61"));
+        EXPECT_EQ(kit.memory.bytes("C:\\log\\x.all"), sample_all_log);
+    }
+}
+
+TEST(ConversionDriverPrograms, TwoInOneProcessDoNotDisturbEachOther) {
+    ProgramKit one;
+    ProgramKit other;
+    one.put_text("C:\\log\\x.all", sample_all_log);
+    other.put_text("C:\\log\\x.all", sample_all_log);
+    one.start();
+    other.start();
+    one.screen().lblRmks1[0].caption = "memo";
+    one.open("C:\\log\\x.all");
+    other.open("C:\\log\\x.all");
+    // The other runs while this one is in the middle of its reading.
+    bool other_ran = false;
+    one.screen().ProgressBar1.listener = [&] {
+        if (!other_ran && one.screen().ProgressBar1.value.get() == 1) {
+            other_ran = true;
+            other.screen().cmdStart.press();
+        }
+    };
+    one.screen().cmdStart.press();
+    EXPECT_TRUE(other_ran);
+    EXPECT_THAT(one.memory.bytes("C:\\log\\zlog_1.txt"), HasSubstr("\"SSN\""));
+    EXPECT_THAT(other.memory.bytes("C:\\log\\zlog_1.txt"), Not(HasSubstr("\"SSN\"")));
+    EXPECT_THAT(other.memory.bytes("C:\\log\\zlog_1.txt"), HasSubstr("JR8YYX/1"));
+}
+
+}  // namespace
+}  // namespace veldrana
