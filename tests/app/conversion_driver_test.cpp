@@ -50,20 +50,19 @@ TEST_F(ConversionDriver, TraceTellsTheRunStepByStep) {
     screen.cmdStart.press();
     std::vector<std::string> lines = kit.trace_lines();
     lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(before));
-    EXPECT_THAT(
-        lines,
-        ElementsAre("", "Private Sub cmdStart_Click()",
-                    "**********************************************",
-                    "Private sub cmdStart_Click()_0", "-----------------------",
-                    "入力ファイル ：C:\\log\\x.all", "入 力 件 数　：件",
-                    "Private Sub cmdStart_1()", "Private Sub cmd_henkan()",
-                    "Private Sub count_in_name()", "Private Sub henkan_at_2_t()",
-                    "Private Sub a_2_t()", "count_file_rec C:\\log\\x.all",
-                    "Open C:\\log\\x.all For Input As #f_i",
-                    "Open C:\\log\\zlog_1.txt For Output As #f_o", "     中間ファイル削除開始",
-                    "     中間ファイル削除終了", "     Private Sub cmd_henkan() 終了",
-                    "Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了",
-                    "Private Sub cmdStart_1() kettuka_disp", "正常終了"));
+    EXPECT_THAT(lines, ElementsAre("", "Private Sub cmdStart_Click()",
+                                   "**********************************************",
+                                   "Private sub cmdStart_Click()_0", "-----------------------",
+                                   "入力ファイル ：C:\\log\\x.all", "入 力 件 数　：件",
+                                   "Private Sub cmdStart_1()", "Private Sub cmd_henkan()",
+                                   "Private Sub count_in_name()", "Private Sub henkan_at_2_t()",
+                                   "Private Sub a_2_t()", "count_file_rec C:\\log\\x.all",
+                                   "Open C:\\log\\x.all For Input As #f_i",
+                                   "Open C:\\log\\zlog_1.txt For Output As #f_o",
+                                   "     中間ファイル削除開始", "     中間ファイル削除終了",
+                                   "     Private Sub cmd_henkan() 終了",
+                                   "Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了",
+                                   "Private Sub cmdStart_1() kettuka_disp", "正常終了"));
 }
 
 TEST_F(ConversionDriver, SecondRunTracesTheCountAndTheSettings) {
@@ -108,7 +107,8 @@ TEST_F(ConversionDriver, WithCheck15TheRedMessageShowsEvenWhenLinesWereKept) {
     screen.txtOp_name.text = "JA1ZZZ";
     watch_state();
     screen.cmdStart.press();
-    EXPECT_THAT(states, Contains(testing::Pair("該当するデータは有りませんでした。", colours::red)));
+    EXPECT_THAT(states,
+                Contains(testing::Pair("該当するデータは有りませんでした。", colours::red)));
     EXPECT_EQ(screen.Check15.fore_colour.get(), colours::red);
     EXPECT_EQ(screen.txtOp_name.fore_colour.get(), colours::red);
     EXPECT_THAT(kit.memory.bytes("C:\\log\\zlog_1.txt"), HasSubstr("JA1ZZA"));
@@ -209,10 +209,10 @@ TEST_F(ConversionDriver, ScratchFilesOfTheDriveAreDeletedAndThoseOfTheLogStay) {
     screen.cmdStart.press();
     std::vector<std::string> files = kit.memory.files();
     std::erase(files, program.trace.path());
-    EXPECT_THAT(files, testing::UnorderedElementsAre(
-                           "C:\\bak_123.txt", "C:\\log\\x.all", "C:\\log\\zlog_1.txt",
-                           "C:\\log\\zlog_2.txt", "C:\\other.csv",
-                           "C:\\veldrana\\Temp_Files\\bak_qso.mas1"));
+    EXPECT_THAT(files, testing::UnorderedElementsAre("C:\\bak_123.txt", "C:\\log\\x.all",
+                                                     "C:\\log\\zlog_1.txt", "C:\\log\\zlog_2.txt",
+                                                     "C:\\other.csv",
+                                                     "C:\\veldrana\\Temp_Files\\bak_qso.mas1"));
 }
 
 TEST_F(ConversionDriver, ShortLineWithMemoInUseEndsInTheReport) {

@@ -11,8 +11,8 @@ namespace {
 TEST(MainScreen, ResultGridHasItsLabelsWidthsAndColours) {
     const MainScreen screen;
     const std::vector<std::string> labels{
-        " 今 回 の処理数",    " 複 数 の局の数",   " 単 数 の局の数",   " 複 ・単の合計数",
-        " No QSL 局の数",     " Name 取得の数",    " ＪＡＲＬ登録の数", " ＪＡＲＬ無登録数",
+        " 今 回 の処理数",   " 複 数 の局の数",  " 単 数 の局の数",   " 複 ・単の合計数",
+        " No QSL 局の数",    " Name 取得の数",   " ＪＡＲＬ登録の数", " ＪＡＲＬ無登録数",
         " ＪＡＲＬ無検索数", " Text_data 取得数"};
     EXPECT_THAT(screen.MSFlexGrid1.column_widths(), testing::ElementsAre(1900, 800, 400));
     ASSERT_EQ(screen.MSFlexGrid1.rows(), labels.size());

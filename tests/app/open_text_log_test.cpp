@@ -153,8 +153,9 @@ TEST_F(OpenTextLog, DialogsOfferTextLogs) {
 
 TEST_F(OpenTextLog, PathOf50BytesIsShownInFull) {
     const std::string folder = "C:\\" + std::string(40, 'f') + "\\";  // 44 bytes
-    for (const auto& [name, shown] : {std::pair{"xx.all", folder + "xx.all"},
-                                      {"xxx.all", "C:\\" + std::string(35, 'f') + "...\\xxx.all"}}) {
+    for (const auto& [name, shown] :
+         {std::pair{"xx.all", folder + "xx.all"},
+          {"xxx.all", "C:\\" + std::string(35, 'f') + "...\\xxx.all"}}) {
         kit.put_text(folder + name, sample_all_log);
         kit.open(folder + name);
         EXPECT_EQ(screen.lblIn_name.caption.get(), shown);

@@ -44,16 +44,24 @@ TEST_F(ProgramEndTest, TellsThatItIsEnding) {
 }
 
 TEST_F(ProgramEndTest, WorkFilesAreDeleted) {
-    const std::vector<std::string> work_files{
-        "C:\\veldrana\\Veldrana.ini2",   "C:\\semp_s.csv",
-        "C:\\semp_d.csv",                "C:\\uemp_s.csv",
-        "C:\\temp_sj.csv",               "C:\\log\\zlog_1.txt",
-        "C:\\log\\zlog_2.txt",           "C:\\log\\zlog_01.txt",
-        "C:\\veldrana\\Veldrana_dat.ini", "C:\\veldrana\\bak_qso.hdx",
-        "C:\\org_qsl.csv",               "C:\\new_qsl_contest.csv",
-        "C:\\new_qsl_hamlog.csv",        "C:\\veldrana\\bak_chk_1.txt",
-        "C:\\veldrana\\hdb_chk_2.txt",   "C:\\veldrana\\bak_qso.mas",
-        "C:\\veldrana\\Master_2.txt",    "C:\\veldrana\\rtcl_tmp.txt"};
+    const std::vector<std::string> work_files{"C:\\veldrana\\Veldrana.ini2",
+                                              "C:\\semp_s.csv",
+                                              "C:\\semp_d.csv",
+                                              "C:\\uemp_s.csv",
+                                              "C:\\temp_sj.csv",
+                                              "C:\\log\\zlog_1.txt",
+                                              "C:\\log\\zlog_2.txt",
+                                              "C:\\log\\zlog_01.txt",
+                                              "C:\\veldrana\\Veldrana_dat.ini",
+                                              "C:\\veldrana\\bak_qso.hdx",
+                                              "C:\\org_qsl.csv",
+                                              "C:\\new_qsl_contest.csv",
+                                              "C:\\new_qsl_hamlog.csv",
+                                              "C:\\veldrana\\bak_chk_1.txt",
+                                              "C:\\veldrana\\hdb_chk_2.txt",
+                                              "C:\\veldrana\\bak_qso.mas",
+                                              "C:\\veldrana\\Master_2.txt",
+                                              "C:\\veldrana\\rtcl_tmp.txt"};
     for (const std::string& path : work_files) {
         kit.put_text(path, "x");
     }

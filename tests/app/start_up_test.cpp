@@ -43,13 +43,13 @@ TEST(StartUp, ProfileFilesThatAreThereAreCopiedIntoTheTraceLog) {
     kit.put_text("C:\\veldrana\\Veldrana.ini", "[Veldrana.ini]\r\nCheck01=1\r\n");
     kit.put_text("C:\\veldrana\\Veldrana_cfg.ini", "[Veldrana_cfg.ini]\r\nall_dir=C:\\表示\\\r\n");
     kit.start();
-    EXPECT_THAT(kit.trace_lines(),
-                ElementsAre("ver : 5.30", "Main()", "strPath : C:\\veldrana\\",
-                            "=========  Veldrana_cfg.ini  ==== 起動時 =======",
-                            "[Veldrana_cfg.ini]", "all_dir=C:\\表示\\",
-                            "================================",
-                            "=========  Veldrana.ini  ==== 起動時 =======", "[Veldrana.ini]",
-                            "Check01=1", "================================", "Public Sub Main()"));
+    EXPECT_THAT(
+        kit.trace_lines(),
+        ElementsAre("ver : 5.30", "Main()", "strPath : C:\\veldrana\\",
+                    "=========  Veldrana_cfg.ini  ==== 起動時 =======", "[Veldrana_cfg.ini]",
+                    "all_dir=C:\\表示\\", "================================",
+                    "=========  Veldrana.ini  ==== 起動時 =======", "[Veldrana.ini]", "Check01=1",
+                    "================================", "Public Sub Main()"));
 }
 
 TEST(StartUp, MainScreenWaitsForALog) {

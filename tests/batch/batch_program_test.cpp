@@ -1,11 +1,10 @@
 // The built batch program from outside: what it prints, how it ends, what it leaves.
 #include <algorithm>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/code_page_932.h"
 #include "tests/app/program_kit.h"
@@ -49,8 +48,7 @@ class BatchProgram : public testing::Test {
 
     // Lets an unprivileged user read everything and write nothing.
     void open_for_reading() {
-        for (const fs::directory_entry& entry :
-             fs::recursive_directory_iterator(scratch.path())) {
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(scratch.path())) {
             chmod(entry.path().c_str(), entry.is_directory() ? 0755 : 0644);
         }
         chmod(scratch.path().c_str(), 0755);
@@ -102,9 +100,8 @@ TEST_F(BatchProgram, RelativePathsAreTakenFromTheCurrentFolder) {
 }
 
 TEST_F(BatchProgram, SettingsGoToTheControls) {
-    const ProcessResult ended =
-        run({"--set", "txtOp_name=JA1ZZY", "--set", "Check01=0", "--set", "lblRmks1(2)=OP %",
-             "--keep-work", "convert", log.string()});
+    const ProcessResult ended = run({"--set", "txtOp_name=JA1ZZY", "--set", "Check01=0", "--set",
+                                     "lblRmks1(2)=OP %", "--keep-work", "convert", log.string()});
     EXPECT_EQ(ended.status, 0) << ended.messages;
     EXPECT_EQ(read_bytes(log.parent_path() / "zlog_1.txt"),
               "\"2025\",\"04\",\"26\",\"2106\",\"JR8YYX/1\",\"59\",\"57\",\"430\",\"FM \","
@@ -208,8 +205,8 @@ TEST_F(BatchProgram, FullDiskEndsInTheReportWith61) {
 TEST_F(BatchProgram, TooShortLineEndsInTheReportWithTheTraceLogKeptAndTheLogUntouched) {
     const std::string bytes = to_code_page(sample_all_log) + "too short\r\n";
     write_bytes(log, bytes);
-    const ProcessResult ended = run(
-        {"--set", "lblRmks1(0)=memo", "--set", "Check26=0", "convert", log.string()});
+    const ProcessResult ended =
+        run({"--set", "lblRmks1(0)=memo", "--set", "Check26=0", "convert", log.string()});
     EXPECT_EQ(ended.status, 3);
     EXPECT_THAT(ended.messages, HasSubstr("エラー発生 ：　5\n"));
     EXPECT_THAT(trace_log(), HasSubstr("エラー発生 ：　5\r\n"));

@@ -1,9 +1,11 @@
 // How a failure ends the program: what the person sees, what the log holds, in which order.
 #include "common/failure_report.h"
 
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gmock/gmock.h>

@@ -32,7 +32,7 @@ TEST(SplitPath, TellsThePartsOfAPath) {
         {R"(C:\.ini)", "C:", R"(C:\)", ".ini", "", "ini"},
         // Characters whose second byte in the code page is a backslash.
         {R"(C:\表示\ソ.能)", "C:", R"(C:\表示\)", "ソ.能", "ソ", "能"},
-        {R"(C:\a/b.txt)", "C:", R"(C:\)", "a/b.txt", "a/b", "txt"},
+        {R"(C:\a/b.txt)", "C:", R"(C:\a/)", "b.txt", "b", "txt"},
     };
     for (const Case& it : cases) {
         SCOPED_TRACE(it.path);
@@ -159,6 +159,8 @@ TEST(Matches, BothWildcardsTogether) {
         {"ab", "*?*?", true},
         {"a", "*?*?", false},
         {"漢", "*?*?", false},
+        {"漢", "*??", false},
+        {"漢字", "*???", false},
         {"log_1.txt", "log_?.*", true},
         {"log_12.txt", "log_?.*", false},
     });

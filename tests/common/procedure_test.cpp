@@ -2,8 +2,8 @@
 #include "common/procedure.h"
 
 #include <memory>
-#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gmock/gmock.h>

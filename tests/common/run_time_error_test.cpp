@@ -1,7 +1,7 @@
 // Failures: their numbers and their texts.
 #include "common/run_time_error.h"
 
-#include <algorithm>
+#include <exception>
 #include <set>
 #include <string>
 #include <vector>

@@ -5,6 +5,7 @@
 #include <limits>
 #include <random>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -171,25 +172,26 @@ TEST(CharacterAt, ReadsBackEveryCharacterThatCanBeAppended) {
 
 TEST(CharacterAt, TakesAByteOfNoCharacterAlone) {
     const std::vector<std::string> malformed{
-        "\x80",              // continuation without a lead
-        "\xBF",              //
-        "\xC2",              // lead at the end of the text
-        "\xE6\xBC",          //
-        "\xF0\xA0\xAE",      //
-        "\xC2x",             // lead before something else
-        "\xE6x\xBC",         //
-        "\xE6\xBCx",         //
-        "\xF0\xA0\xAEx",     //
-        "\xC0\x80",          // longer than need be
-        "\xC1\xBF",          //
-        "\xE0\x9F\xBF",      //
-        "\xF0\x8F\xBF\xBF",  //
-        "\xED\xA0\x80",      // surrogates
-        "\xED\xBF\xBF",      //
-        "\xF4\x90\x80\x80",  // behind the last character
-        "\xF5\x80\x80\x80",  //
-        "\xF8\x88\x80\x80\x80",
-        "\xFC\x84\x80\x80\x80\x80",
+        "\x80",                      // continuation without a lead
+        "\xBF",                      //
+        "\xC2",                      // lead at the end of the text
+        "\xE6\xBC",                  //
+        "\xF0\xA0\xAE",              //
+        "\xC2x",                     // lead before something else
+        "\xE6x\xBC",                 //
+        "\xE6\xBCx",                 //
+        "\xF0\xA0\xAEx",             //
+        "\xC0\x80",                  // longer than need be
+        "\xC1\xBF",                  //
+        "\xE0\x9F\xBF",              //
+        "\xF0\x8F\xBF\xBF",          //
+        "\xED\xA0\x80",              // surrogates
+        "\xED\xBF\xBF",              //
+        "\xF4\x90\x80\x80",          // behind the last character
+        "\xF5\x80\x80\x80",          //
+        "\xF8\x88\x80\x80\x80",      // more bytes than a character has
+        "\xF8\x80\x81\x81\x81",      //
+        "\xFC\x84\x80\x80\x80\x80",  //
         "\xFE",
         "\xFF",
     };

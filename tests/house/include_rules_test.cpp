@@ -19,26 +19,49 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // From the ground up: a room may use itself and the rooms in front of it.
-const std::vector<std::string> rooms{"common", "platform", "settings", "masters", "readers",
-                                     "rows",   "qsl",      "output",   "jarl",    "tools",
-                                     "viewers", "app"};
+const std::vector<std::string> rooms{"common", "platform", "settings", "masters", "readers", "rows",
+                                     "qsl",    "output",   "jarl",     "tools",   "viewers", "app"};
 // The programs: both may use every room, neither the other, and no room uses them.
 const std::vector<std::string> programs{"batch", "screens"};
 
 // What the rooms may include in angle brackets: the standard library, and in platform the system
 // and the libraries it stands on.
-const std::set<std::string> standard_headers{
-    "algorithm", "any", "array", "atomic", "bit", "bitset", "cctype", "cerrno", "charconv",
-    "chrono", "cmath", "compare", "concepts", "cstddef", "cstdint", "cstdio", "cstdlib",
-    "cstring", "ctime", "cwchar", "deque", "exception", "filesystem", "fstream", "functional",
-    "initializer_list", "iomanip", "ios", "iosfwd", "iostream", "istream", "iterator", "limits",
-    "list", "locale", "map", "memory", "mutex", "new", "numeric", "optional", "ostream", "queue",
-    "random", "ranges", "ratio", "regex", "set", "span", "sstream", "stack", "stdexcept",
-    "streambuf", "string", "string_view", "system_error", "thread", "tuple", "type_traits",
-    "typeinfo", "unordered_map", "unordered_set", "utility", "variant", "vector"};
-const std::set<std::string> platform_headers{"iconv.h",  "windows.h",   "fcntl.h", "unistd.h",
-                                             "sys/stat.h", "curl/curl.h", "archive.h",
-                                             "archive_entry.h"};
+const std::set<std::string> standard_headers{"algorithm",     "any",
+                                             "array",         "atomic",
+                                             "bit",           "bitset",
+                                             "cctype",        "cerrno",
+                                             "charconv",      "chrono",
+                                             "cmath",         "compare",
+                                             "concepts",      "cstddef",
+                                             "cstdint",       "cstdio",
+                                             "cstdlib",       "cstring",
+                                             "ctime",         "cwchar",
+                                             "deque",         "exception",
+                                             "filesystem",    "fstream",
+                                             "functional",    "initializer_list",
+                                             "iomanip",       "ios",
+                                             "iosfwd",        "iostream",
+                                             "istream",       "iterator",
+                                             "limits",        "list",
+                                             "locale",        "map",
+                                             "memory",        "mutex",
+                                             "new",           "numeric",
+                                             "optional",      "ostream",
+                                             "queue",         "random",
+                                             "ranges",        "ratio",
+                                             "regex",         "set",
+                                             "span",          "sstream",
+                                             "stack",         "stdexcept",
+                                             "streambuf",     "string",
+                                             "string_view",   "system_error",
+                                             "thread",        "tuple",
+                                             "type_traits",   "typeinfo",
+                                             "unordered_map", "unordered_set",
+                                             "utility",       "variant",
+                                             "vector"};
+const std::set<std::string> platform_headers{"iconv.h",   "windows.h",      "fcntl.h",
+                                             "unistd.h",  "sys/stat.h",     "curl/curl.h",
+                                             "archive.h", "archive_entry.h"};
 
 struct Include {
     std::string name;
@@ -69,7 +92,9 @@ bool is_program(const std::string& name) {
     return std::find(programs.begin(), programs.end(), name) != programs.end();
 }
 
-bool is_qt(const std::string& header) { return std::regex_search(header, std::regex("^Q[A-Zt]")); }
+bool is_qt(const std::string& header) {
+    return std::regex_search(header, std::regex("^Q[A-Zt]"));
+}
 
 // What is wrong with the includes of a file that lies in a room; empty if nothing is.
 std::vector<std::string> faults_of(const std::string& room, const std::string& source) {
@@ -78,8 +103,9 @@ std::vector<std::string> faults_of(const std::string& room, const std::string& s
         const std::string used = include.name.substr(0, include.name.find('/'));
         if (include.in_quotes) {
             const bool known = is_room(used) || is_program(used);
-            const bool allowed = used == room || (is_program(room) && is_room(used)) ||
-                                 (is_room(room) && is_room(used) && floor_of(used) < floor_of(room));
+            const bool allowed =
+                used == room || (is_program(room) && is_room(used)) ||
+                (is_room(room) && is_room(used) && floor_of(used) < floor_of(room));
             if (!known) {
                 faults.push_back("not written from src/: " + include.name);
             } else if (!allowed) {
@@ -114,8 +140,9 @@ TEST(IncludeRules, AreKeptByEverySourceFile) {
 }
 
 TEST(IncludeRules, ARoomMayUseItselfAndThoseBelow) {
-    EXPECT_THAT(faults_of("rows", "#include \"rows/a.h\"\n#include \"readers/b.h\"\n"
-                                  "#include \"common/c.h\"\n#include <string>\n"),
+    EXPECT_THAT(faults_of("rows",
+                          "#include \"rows/a.h\"\n#include \"readers/b.h\"\n"
+                          "#include \"common/c.h\"\n#include <string>\n"),
                 IsEmpty());
     EXPECT_THAT(faults_of("batch", "#include \"app/a.h\"\n#include <CLI/CLI.hpp>\n"), IsEmpty());
 }

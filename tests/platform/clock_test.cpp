@@ -72,7 +72,8 @@ TEST(LocalTime, IsCountedInTheZoneOfTheSystem) {
         Row{"JST-9", 0, "1970/01/01 09:00:00"},
         // 30 years with 7 leap days are 10957 days; 59 more are the leap day of 2000.
         Row{"JST-9", (10957 + 59) * std::time_t{86400} - 1, "2000/02/29 08:59:59"},
-        Row{"JST-9", (10957 + 59) * std::time_t{86400} + 15 * 3600, "2000/03/01 00:00:00"},
+        Row{"JST-9", (10957 + 59) * std::time_t{86400} + std::time_t{15} * 3600,
+            "2000/03/01 00:00:00"},
         Row{"EST5", 10957 * std::time_t{86400}, "1999/12/31 19:00:00"},
     };
     for (const Row& row : rows) {

@@ -21,7 +21,7 @@ namespace {
 using testing::IsEmpty;
 
 std::string single(unsigned byte) {
-    return std::string(1, static_cast<char>(byte));
+    return {static_cast<char>(byte)};
 }
 
 std::string pair(unsigned code) {
@@ -154,7 +154,9 @@ TEST(CodePage932, ReadsADoubledCharacterAlikeFromBothItsCodes) {
     std::vector<std::string> wrong;
     for (const unsigned code : double_byte_codes()) {
         const unsigned preferred = preferred_code(code);
-        doubled += preferred != code ? 1 : 0;
+        if (preferred != code) {
+            ++doubled;
+        }
         if (from_code_page(pair(code)) != from_code_page(pair(preferred))) {
             wrong.push_back(hex(pair(code)));
         }
@@ -218,7 +220,9 @@ TEST(CodePage932, MakesOneCharacterOfEveryDoubleByteCode) {
 TEST(CodePage932, LeavesOpenTheCodesThatNobodyHasFilled) {
     std::size_t open = 0;
     for (const unsigned code : double_byte_codes()) {
-        open += from_code_page(pair(code)) == text_of(unreadable_pair + code) ? 1 : 0;
+        if (from_code_page(pair(code)) == text_of(unreadable_pair + code)) {
+            ++open;
+        }
     }
     EXPECT_EQ(double_byte_codes().size(), 60U * 188U);
     EXPECT_EQ(open, 60U * 188U - 6879U - 83U - 374U - 388U - 1880U);
@@ -289,9 +293,9 @@ TEST(CodePage932, WritesDoubledCharactersInTheCodeThatWindowsPrefers) {
         unsigned written;
     };
     constexpr std::array cases{
-        Doubled{0xEEE0, "髙", 0xFBFC}, Doubled{0xFA4A, "Ⅰ", 0x8754}, Doubled{0xFA58, "㈱", 0x878A},
+        Doubled{0xEEE0, "髙", 0xFBFC}, Doubled{0xFA4A, "Ⅰ", 0x8754},  Doubled{0xFA58, "㈱", 0x878A},
         Doubled{0xEEF9, "￢", 0x81CA}, Doubled{0xFA54, "￢", 0x81CA}, Doubled{0x879A, "∵", 0x81E6},
-        Doubled{0xFA5B, "∵", 0x81E6},  Doubled{0xEEEF, "ⅰ", 0xFA40}, Doubled{0xEEFA, "￤", 0xFA55},
+        Doubled{0xFA5B, "∵", 0x81E6},  Doubled{0xEEEF, "ⅰ", 0xFA40},  Doubled{0xEEFA, "￤", 0xFA55},
         Doubled{0xED40, "纊", 0xFA5C}, Doubled{0xEEEC, "黑", 0xFC4B},
     };
     for (const Doubled& doubled : cases) {
@@ -334,9 +338,9 @@ TEST(CodePage932, TakesALeadByteWithoutItsSecondAlone) {
     EXPECT_EQ(from_code_page(before_blank),
               text_of(unreadable_byte + 0x82) + " " + text_of(unreadable_byte + 0xA0));
     // 7F and FD are no second bytes.
-    EXPECT_EQ(from_code_page("\x82\x7F\x82\xFD"),
-              text_of(unreadable_byte + 0x82) + "\x7F" + text_of(unreadable_byte + 0x82) +
-                  text_of(unreadable_byte + 0xFD));
+    EXPECT_EQ(from_code_page("\x82\x7F\x82\xFD"), text_of(unreadable_byte + 0x82) + "\x7F" +
+                                                      text_of(unreadable_byte + 0x82) +
+                                                      text_of(unreadable_byte + 0xFD));
 }
 
 TEST(CodePage932, AppendsBehindWhatIsThere) {

@@ -164,8 +164,7 @@ TEST(TextInput, ReadsLinesOfAMegabyte) {
         wide += "あ";
     }
     bytes += "\n73\n" + ascii;
-    EXPECT_EQ(lines_of(bytes, 16 * megabyte),
-              (std::vector<std::string>{ascii, wide, "73", ascii}));
+    EXPECT_EQ(lines_of(bytes, 16 * megabyte), (std::vector<std::string>{ascii, wide, "73", ascii}));
     EXPECT_EQ(lines_of(bytes, 65537), (std::vector<std::string>{ascii, wide, "73", ascii}));
 }
 
@@ -403,7 +402,7 @@ TEST_F(FailingOutput, TellsThatTheFileCannotBeOpened) {
 }
 
 TEST_F(FailingOutput, SaysNothingWhenItIsDestroyed) {
-    for (const std::size_t operation : {1, 2}) {
+    for (const unsigned operation : {1U, 2U}) {
         const std::size_t before = failing_.operations();
         EXPECT_EQ(failure_of([&] {
                       TextOutput output(failing_, path);
@@ -433,8 +432,8 @@ struct Counted {
 
 TEST(LineNumberAtEnd, IsOneMoreThanTheLineEnds) {
     const std::vector<Counted> cases{
-        {"", 1},         {"a", 1},      {"a\r\n", 2},     {"a\n", 2},
-        {"a\r\nb", 2},   {"a\nb\n", 3}, {"\r\n\r\n", 3},  {"a\rb", 1},
+        {"", 1},          {"a", 1},      {"a\r\n", 2},      {"a\n", 2},
+        {"a\r\nb", 2},    {"a\nb\n", 3}, {"\r\n\r\n", 3},   {"a\rb", 1},
         {"a\0\n\0"sv, 2}, {"\n", 2},     {"\x95\x5C\n", 2}, {"a\r\n\r\n", 3},
     };
     for (const Counted& counted : cases) {

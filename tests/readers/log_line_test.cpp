@@ -28,7 +28,8 @@ TEST(LogLine, ReplacesTheContactBefore) {
     QuotedLine line;
     put(line, {.call = "JA1ZZA"});
     put(line, {.call = "JA1ZZB"});
-    EXPECT_EQ(line.text(), "\"\",\"\",\"\",\"\",\"JA1ZZB\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"");
+    EXPECT_EQ(line.text(),
+              "\"\",\"\",\"\",\"\",\"JA1ZZB\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"");
 }
 
 }  // namespace

@@ -155,26 +155,27 @@ TEST_P(ZlogTextColumn, StandsWhereTheTableTells) {
     EXPECT_EQ(read_field(column.kind, line, column.field), marks);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, ZlogTextColumn,
-    testing::Values(ColumnCase{InputKind::all, 1, 4, year}, ColumnCase{InputKind::all, 6, 2, month},
-                    ColumnCase{InputKind::all, 9, 2, day}, ColumnCase{InputKind::all, 18, 12, call},
-                    ColumnCase{InputKind::all, 31, 3, sent},
-                    ColumnCase{InputKind::all, 43, 3, received},
-                    ColumnCase{InputKind::all, 47, 8, number},
-                    ColumnCase{InputKind::all, 67, 4, band},
-                    ColumnCase{InputKind::all, 72, 3, mode}));
+INSTANTIATE_TEST_SUITE_P(All, ZlogTextColumn,
+                         testing::Values(ColumnCase{InputKind::all, 1, 4, year},
+                                         ColumnCase{InputKind::all, 6, 2, month},
+                                         ColumnCase{InputKind::all, 9, 2, day},
+                                         ColumnCase{InputKind::all, 18, 12, call},
+                                         ColumnCase{InputKind::all, 31, 3, sent},
+                                         ColumnCase{InputKind::all, 43, 3, received},
+                                         ColumnCase{InputKind::all, 47, 8, number},
+                                         ColumnCase{InputKind::all, 67, 4, band},
+                                         ColumnCase{InputKind::all, 72, 3, mode}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Txt, ZlogTextColumn,
-    testing::Values(ColumnCase{InputKind::txt, 1, 2, month}, ColumnCase{InputKind::txt, 5, 2, day},
-                    ColumnCase{InputKind::txt, 8, 4, time_of_day},
-                    ColumnCase{InputKind::txt, 13, 11, call},
-                    ColumnCase{InputKind::txt, 24, 3, sent},
-                    ColumnCase{InputKind::txt, 37, 3, received},
-                    ColumnCase{InputKind::txt, 40, 7, number},
-                    ColumnCase{InputKind::txt, 58, 4, band},
-                    ColumnCase{InputKind::txt, 64, 3, mode}));
+INSTANTIATE_TEST_SUITE_P(Txt, ZlogTextColumn,
+                         testing::Values(ColumnCase{InputKind::txt, 1, 2, month},
+                                         ColumnCase{InputKind::txt, 5, 2, day},
+                                         ColumnCase{InputKind::txt, 8, 4, time_of_day},
+                                         ColumnCase{InputKind::txt, 13, 11, call},
+                                         ColumnCase{InputKind::txt, 24, 3, sent},
+                                         ColumnCase{InputKind::txt, 37, 3, received},
+                                         ColumnCase{InputKind::txt, 40, 7, number},
+                                         ColumnCase{InputKind::txt, 58, 4, band},
+                                         ColumnCase{InputKind::txt, 64, 3, mode}));
 
 TEST_F(ZlogText, TimeOfAnAllLineLeavesOutTheColon) {
     std::string line(130, '.');
@@ -218,8 +219,9 @@ TEST_F(ZlogText, DupeMarkDisappearsFromTheMemoButTheContactIsKept) {
 
 TEST_F(ZlogText, FilterWithoutANameLetsEveryLinePass) {
     options.Check15 = true;
-    EXPECT_THAT(read(InputKind::all, {all_line("%%JA1ZZA%%"), all_line("%%JA1ZZB%%"), all_line("")}),
-                SizeIs(3));
+    EXPECT_THAT(
+        read(InputKind::all, {all_line("%%JA1ZZA%%"), all_line("%%JA1ZZB%%"), all_line("")}),
+        SizeIs(3));
     EXPECT_EQ(kept, 3U);
 }
 
@@ -400,8 +402,8 @@ TEST(GetOpAll, PassesTwoBytesBehindTheFirstMark) {
 TEST(GetOpAll, LooksAtTheFirst120Bytes) {
     const std::string line = std::string(110, '.') + "%%JA1ZZZ%%";  // ends at byte 120
     EXPECT_EQ(get_op_all(line), "JA1ZZZ");
-    EXPECT_EQ(get_op_all("." + line), "JA1ZZZ");    // the last mark is cut, the one before is there
-    EXPECT_EQ(get_op_all(".." + line), "");         // both are
+    EXPECT_EQ(get_op_all("." + line), "JA1ZZZ");  // the last mark is cut, the one before is there
+    EXPECT_EQ(get_op_all(".." + line), "");       // both are
 }
 
 class GetMemoAll : public testing::Test {
@@ -523,8 +525,7 @@ TEST_F(ZlogText, DroppedLinesMoveTheBarToo) {
 TEST_F(ZlogText, EachContactStartsWithAnEmptyMemoAndFrequency) {
     use.mark(RemarkItem::memo);
     use.mark(RemarkItem::op);
-    const auto contacts =
-        read(InputKind::all, {all_line("%%JA1ZZZ%% SSN (7012)"), all_line("")});
+    const auto contacts = read(InputKind::all, {all_line("%%JA1ZZZ%% SSN (7012)"), all_line("")});
     EXPECT_EQ(contacts[1][op], "");
     EXPECT_EQ(contacts[1][memo], "");
     EXPECT_EQ(contacts[1][frequency], "");
