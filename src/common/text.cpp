@@ -25,6 +25,12 @@ std::uint64_t block_at(std::string_view text, std::size_t offset) noexcept {
     return block;
 }
 
+// The bits that are set in any of four blocks.
+std::uint64_t four_blocks_at(std::string_view text, std::size_t offset) noexcept {
+    return block_at(text, offset) | block_at(text, offset + block_size) |
+           block_at(text, offset + 2 * block_size) | block_at(text, offset + 3 * block_size);
+}
+
 constexpr bool is_continuation(char byte) noexcept {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
@@ -40,6 +46,9 @@ void require_not_negative(Count count) {
 std::size_t ascii_prefix(std::string_view text, std::size_t limit) noexcept {
     const std::size_t end = std::min(text.size(), limit);
     std::size_t offset = 0;
+    while (offset + 4 * block_size <= end && (four_blocks_at(text, offset) & high_bits) == 0) {
+        offset += 4 * block_size;
+    }
     while (offset + block_size <= end && (block_at(text, offset) & high_bits) == 0) {
         offset += block_size;
     }
@@ -125,6 +134,9 @@ double radix_value(std::string_view digits, int base) {
 bool is_ascii(std::string_view text) noexcept {
     std::size_t offset = 0;
     std::uint64_t bits = 0;
+    for (; offset + 4 * block_size <= text.size(); offset += 4 * block_size) {
+        bits |= four_blocks_at(text, offset);
+    }
     for (; offset + block_size <= text.size(); offset += block_size) {
         bits |= block_at(text, offset);
     }

@@ -70,12 +70,9 @@ void take_full_date(const FixedColumns& line, const RunOptions& /*options*/, Own
 // "SSB" for the short forms of it; the two of RTTY are taken for it too. Kept: marks of past runs
 // rest on it.
 std::string_view long_mode(std::string_view mode) {
-    for (const std::string_view short_form : {"SS", "SB", "RT", "TY"}) {
-        if (trim(mode) == short_form) {
-            return "SSB";
-        }
-    }
-    return mode;
+    const std::string_view trimmed = trim(mode);
+    const bool is_short = trimmed == "SS" || trimmed == "SB" || trimmed == "RT" || trimmed == "TY";
+    return is_short ? "SSB" : mode;
 }
 
 bool operator_for_remarks_or_filter(const RunOptions& options, const RemarkUse& use) {
@@ -240,7 +237,12 @@ std::string get_freq_all(std::string_view line) {
     }
     std::string_view piece = line.substr(open + 1);
     piece = piece.substr(0, piece.find('('));
-    const std::string without_close = replace_all(trim_right(piece), ")", "");
+    std::string without_close;
+    for (const char byte : trim_right(piece)) {
+        if (byte != ')') {
+            without_close += byte;
+        }
+    }
     const std::string_view kilohertz = trim(without_close);
     const auto size = static_cast<Count>(length(kilohertz));
     if (size < 4 || size > 7) {
