@@ -14,6 +14,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Nobody is asked anything here.
+class NoPerson : public Person {
+  public:
+    Answer show(const MessageBox& /*box*/) override { return Answer::ok; }
+    std::string choose_file(const FileDialog& /*dialog*/) override { return {}; }
+    void pending_events() override {}
+};
+
 void write_log(const fs::path& file, std::int64_t contacts) {
     std::ofstream log(file, std::ios::binary);
     log << heading_of(InputKind::all) << " \r\n";
@@ -34,7 +42,9 @@ void ReadAllLog(benchmark::State& state) {
     Form form;
     Label lblCFG(form, "lblCFG");
     ProgressBar bar(form, "ProgressBar1");
-    const Stage stage{disk, trace, lblCFG, bar};
+    StableSort sorter(disk);
+    NoPerson person;
+    const Stage stage{disk, trace, sorter, person, lblCFG, bar};
     const RunOptions options;
     RemarkUse use;
     use.mark(RemarkItem::memo);

@@ -17,9 +17,6 @@ void cmdStart_Click(Program& program);
 // are known and none is chosen.
 void cmdStart_1(Program& program);
 
-// A conversion: log to intermediate files, stage by stage.
-void cmd_henkan(Program& program);
-
 // Shows how many records the chosen log has: the lines behind its heading.
 void count_in_name(Program& program);
 

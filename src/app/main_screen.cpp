@@ -5,10 +5,19 @@
 namespace veldrana {
 
 MainScreen::MainScreen() {
-    for (CheckBox* const box :
-         {&Check01, &Check15, &Check8, &Check4_A, &Check4_B, &Check26, &Check27, &Check28}) {
-        box->value.on_change = [this, box] { option_clicked(*box); };
-        option_clicked(*box);
+    for (Control* const control : controls()) {
+        if (auto* const box = dynamic_cast<CheckBox*>(control)) {
+            box->value.on_change = [this, box] { option_clicked(*box); };
+            option_clicked(*box);
+        } else if (auto* const group = dynamic_cast<OptionGroup*>(control)) {
+            group->index.on_change = [this, group] { option_clicked(*group); };
+            option_clicked(*group);
+        }
+    }
+    Check2.value.on_change = [this] { Check2_Click(); };
+    Check3.value.on_change = [this] { Check3_Click(); };
+    for (TextBox* const mark : {&txtQSL_Q, &txtQSL_S}) {
+        mark->text.on_change = [mark] { keep_first_character(*mark); };
     }
     txtOp_name.text.on_change = [this] { txtOp_name_Change(); };
     txtYYYY.text.on_change = [this] { txtYYYY_Change(); };
@@ -28,6 +37,36 @@ void MainScreen::option_clicked(CheckBox& box) {
     lblCFG.caption = "";
     lblMsg.caption = "";
     box.fore_colour = box.value ? colours::blue : colours::black;
+}
+
+void MainScreen::option_clicked(OptionGroup& group) {
+    lblCFG.caption = "";
+    lblMsg.caption = "";
+    std::vector<OptionGroup::Button> buttons = group.buttons;
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        const bool chosen = group.index == static_cast<int>(i);
+        buttons[i].fore_colour = chosen ? colours::blue : colours::black;
+    }
+    group.buttons = std::move(buttons);
+}
+
+// Each of the two takes the other off.
+void MainScreen::Check2_Click() {
+    option_clicked(Check2);
+    if (Check2.value) {
+        Check3.value = false;
+    }
+}
+
+void MainScreen::Check3_Click() {
+    option_clicked(Check3);
+    if (Check3.value) {
+        Check2.value = false;
+    }
+}
+
+void MainScreen::keep_first_character(TextBox& box) {
+    box.text = std::string(left(box.text.get(), 1));
 }
 
 void MainScreen::txtOp_name_Change() {

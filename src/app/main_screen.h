@@ -34,14 +34,62 @@ struct MainScreen : Form {
     TabControl SSTab1{*this, "SSTab1"};
 
     // --- options ---
+    OptionGroup Option01{*this, "Option01", {"新 Hamlog.hdb"}, 0};
+    OptionGroup Option07{
+        *this,
+        "Option07",
+        {"この機能は無効にする", "QSO 済みの局", "QSL発行済みの局", "QSL受領済みの局"},
+        0};
+    OptionGroup Option02{
+        *this, "Option02", {"使用しない", "hl_code.mas", "個別 DAT 等", "yubin_m?"}, 0};
+    OptionGroup Option03{*this, "Option03", {"自動", "手動"}, 0};
+    OptionGroup Option04{*this, "Option04", {"しない", "する"}, 0};
+    OptionGroup Option05{*this, "Option05", {"分ける", "分けない"}, 0};
+    OptionGroup Option06{*this,
+                         "Option06",
+                         {"Call > Band > Mode > Date > Time", "Call > Date > Time > Band > Mode"},
+                         0};
+    OptionGroup Option09{*this, "Option09", {"ASCII 順", "JARL順", "JARL逆順"}, 0};
+    OptionGroup Option08{
+        *this, "Option08", {"無変換", "全て J", "全て U", "DX 局 U", "ＪＡ 局 Ｊ"}, 0};
+    OptionGroup Option1{*this, "Option1", {"U", "J"}, 0};
+    OptionGroup Option4{*this, "Option4", {"左側", "右側", "左側", "右側"}, 1};
+
     CheckBox Check01{*this, "Check01", "Freq 取り込み", true};
-    CheckBox Check15{*this, "Check15", "　読み込む　 指定ＯＰ名 ==>", true};
+    CheckBox Check03{*this, "Check03", "QRA の取得する"};
+    CheckBox Check06{*this, "Check06", "作成"};
+    CheckBox Check07{*this, "Check07", "contestj.csv , contestj_n.csv の G・L 欄の # を置換"};
+    CheckBox Check08{*this, "Check08", "cont_jのみ"};
+    CheckBox Check1{*this, "Check1", "空白有り"};
+    CheckBox Check10{*this, "Check10", "No QSL とする"};
+    CheckBox Check14{*this, "Check14", "使用する"};
+    CheckBox Check4{*this, "Check4", "Code", true};
+    CheckBox Check5{*this, "Check5", "G ・L", true};
+    CheckBox Check6{*this, "Check6", "Name", true};
+    CheckBox Check7{*this, "Check7", "QTH"};
+    CheckBox Check16{*this, "Check16", "但し、移動局なら Code , QTH , G・L は取得しない"};
     CheckBox Check8{*this, "Check8", "使用する"};
     CheckBox Check4_A{*this, "Check4_A", ""};
     CheckBox Check4_B{*this, "Check4_B", ""};
+    CheckBox Check11{*this, "Check11", "Name"};
+    CheckBox Check13{*this, "Check13", "Code"};
+    CheckBox Check9{*this, "Check9", "QTH"};
+    CheckBox Check12{*this, "Check12", "Ｒｍｋｓ"};
+    CheckBox Check17{*this, "Check17", "但し、移動局なら　Code , QTH は取得しない"};
+    CheckBox Check15{*this, "Check15", "　読み込む　 指定ＯＰ名 ==>", true};
+    CheckBox Check18{*this, "Check18", "変換の度に参照ファイルから再読み込みをする"};
+    CheckBox Check19{*this, "Check19", "同バンド"};
+    CheckBox Check20{*this, "Check20", "同モード"};
+    CheckBox Check2{*this, "Check2", " N --> J"};
+    CheckBox Check3{*this, "Check3", " J --> N"};
+    CheckBox Check21{*this, "Check21", " 単数回 のみ は Ｇ・Ｌ 欄 に ＃ を書き込む"};
     CheckBox Check26{*this, "Check26", "エラー無しでもログ残す", true};
     CheckBox Check27{*this, "Check27", "受信ナンバーの空中線電力記号 ( H/M/L/P ) を削除"};
     CheckBox Check28{*this, "Check28", "APP_N1MM_EXCHANGE1 を Ｃｏｄｅ 欄に転記"};
+    TextBox txtQSL_Q{*this, "txtQSL_Q", "J"};
+    TextBox txtQSL_S{*this, "txtQSL_S", "*"};
+    TextBox txtRmks1{*this, "txtRmks1"};
+    TextBox txtRmks2{*this, "txtRmks2"};
     TextBox txtOp_name{*this, "txtOp_name"};
     Frame Frame14{*this, "Frame14"};
     TextBox txtYYYY{*this, "txtYYYY"};
@@ -58,6 +106,7 @@ struct MainScreen : Form {
     MenuEntry mnuOpen{*this, "mnuOpen", "zlogのﾃﾞｰﾀ ( ALL , TXT ) ﾌｧｲﾙを選ぶ"};
     MenuEntry mnuOpen_all_txt_set{*this, "mnuOpen_all_txt_set",
                                   "zlogのﾃﾞｰﾀ ( ALL , TXT ) を 指定フォルダから選ぶ"};
+    MenuEntry mnuOpen_con_n{*this, "mnuOpen_con_n", "contestj_n.csv を開く"};
     MenuEntry mnuDisp_in{*this, "mnuDisp_in", "入力ﾌｧｲﾙ"};
     MenuEntry mnuDisp_con_n{*this, "mnuDisp_con_n", "contestj_n.csv"};
     MenuEntry mnuDisp_ham_n{*this, "mnuDisp_ham_n", "hamlogja_n.csv"};
@@ -87,6 +136,8 @@ struct MainScreen : Form {
     // Puts a caption into the status label.
     void tell(std::string_view caption, Colour colour);
 
+    void Check2_Click();
+    void Check3_Click();
     void txtOp_name_Change();
     void txtYYYY_Change();
 
@@ -104,6 +155,9 @@ struct MainScreen : Form {
     // What every click on an option does: an old result text goes away, and the caption shows
     // whether the option is on.
     void option_clicked(CheckBox& box);
+    void option_clicked(OptionGroup& group);
+    // Keeps what is typed to its first character.
+    static void keep_first_character(TextBox& box);
     void enable_viewers(bool on);
 };
 

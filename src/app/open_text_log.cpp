@@ -30,6 +30,7 @@ void open_text_log(Program& program, const std::string& path) {
         return;
     }
     log.in_name = path;
+    program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);
     set_out_names(program);
 
@@ -66,6 +67,21 @@ void mnuOpen_all_txt_set_Click(Program& program) {
                                     "　の ＊．ａｌｌ　または　＊．ｔｘｔ　 ファイルを  開く ....",
                            .filter = "テキストファイル(*.all;*.txt)|*.all;*.txt|",
                            .folder = folder}));
+    });
+}
+
+void mnuOpen_con_n_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub mnuOpen_con_n_Click()", [&] {
+        const std::string path =
+            program.person.choose_file({.filter = "contestj_n.csv|contestj_n.csv"});
+        if (!has_backslash(path)) {
+            return;
+        }
+        program.log.in_name = path;
+        program.log.f_type.reset();
+        program.run_mode = RunMode::replacement;
+        set_out_names(program);
+        check_readiness(program);
     });
 }
 

@@ -1,4 +1,5 @@
-// Owns how a zLog text log is chosen on the main screen.
+// Owns how a zLog text log, or a contest file for the replacement run, is chosen on the main
+// screen.
 #pragma once
 
 #include <string_view>
@@ -14,6 +15,9 @@ constexpr std::string_view not_a_text_log = "zlogのﾃｷｽﾄﾌｧｲﾙで�
 void mnuOpen_Click(Program& program);
 // A file dialog in the folder for these logs.
 void mnuOpen_all_txt_set_Click(Program& program);
+
+// A file dialog for a contest file whose "#" the start button then replaces.
+void mnuOpen_con_n_Click(Program& program);
 
 // Fills in the present year.
 void cmdNow_Click(Program& program);

@@ -14,12 +14,14 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     : disk(outside.disk),
       clock(outside.clock),
       person(outside.person),
+      sorter(outside.sorter),
       paths(make_paths(program_folder, windows_folder)) {
     const auto attach = [this](CommandButton& button, void (*handler)(Program&)) {
         button.Click = [this, handler] { event([this, handler] { handler(*this); }); };
     };
     attach(screen.mnuOpen, mnuOpen_Click);
     attach(screen.mnuOpen_all_txt_set, mnuOpen_all_txt_set_Click);
+    attach(screen.mnuOpen_con_n, mnuOpen_con_n_Click);
     attach(screen.tool_open, mnuOpen_all_txt_set_Click);
     attach(screen.cmdStart, cmdStart_Click);
     attach(screen.tool_convert, cmdStart_Click);

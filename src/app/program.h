@@ -18,6 +18,7 @@
 #include "platform/disk.h"
 #include "platform/stage.h"
 #include "readers/input_kind.h"
+#include "rows/call_sign.h"
 #include "settings/environment_settings.h"
 #include "settings/remark_items.h"
 
@@ -28,6 +29,7 @@ struct Ports {
     Disk& disk;
     Clock& clock;
     Person& person;
+    SortService& sorter;
 };
 
 // The log that was chosen, and the names that follow from it.
@@ -40,6 +42,12 @@ struct ChosenLog {
     std::string record_count;  // as shown, without its unit
 };
 
+// What the start button does.
+enum class RunMode {
+    conversion,   // 変換: a log becomes its result files
+    replacement,  // 置換: the "#" of a contest file become blanks
+};
+
 struct Program {
     Program(const Ports& outside, std::string_view program_folder, std::string_view windows_folder);
     Program(const Program&) = delete;
@@ -49,6 +57,7 @@ struct Program {
     Disk& disk;
     Clock& clock;
     Person& person;
+    SortService& sorter;
 
     Paths paths;
     EnvironmentSettings environment;
@@ -57,6 +66,9 @@ struct Program {
     ChosenLog log;
     Counters counters;
     RemarkUse remark_use;
+    RemarkLengths remark_lengths;
+    CallMemory call_memory;
+    RunMode run_mode = RunMode::conversion;
     // Lines that the operator filter let through; .TXT logs are counted apart, and the warning
     // about an operator without lines looks at the first count alone.
     std::size_t kept_lines = 0;
@@ -65,7 +77,7 @@ struct Program {
     // Leaves the work files that the orderly end would delete.
     bool keep_work_files = false;
 
-    Stage stage() { return {disk, trace, screen.lblCFG, screen.ProgressBar1}; }
+    Stage stage() { return {disk, trace, sorter, person, screen.lblCFG, screen.ProgressBar1}; }
 
     // Runs what a press or a start sets going. A failure that nobody handled is reported here and
     // ends the program; nothing that is thrown leaves. False if the program has ended, before or

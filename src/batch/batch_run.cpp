@@ -17,7 +17,8 @@ class BatchProgram {
         : output_(output),
           disk_(options.drives, options.home),
           person_(output.messages, options.answer),
-          program_({disk_, clock_, person_}, disk_.program_path(options.home),
+          sorter_(disk_),
+          program_({disk_, clock_, person_, sorter_}, disk_.program_path(options.home),
                    environment_variable("WINDIR")) {
         program_.keep_work_files = options.keep_work;
         if (output.show_progress) {
@@ -102,6 +103,7 @@ class BatchProgram {
     HostDisk disk_;
     SystemClock clock_;
     BatchPerson person_;
+    StableSort sorter_;
     Program program_;
     std::size_t shown_percent_ = 0;
 };

@@ -9,11 +9,11 @@ void trace_failure(TraceLog& trace, std::string_view procedure, ErrorLine form,
     }
     error.mark_traced();
     try {
-        std::string line(TraceLog::failure_mark);
-        if (form == ErrorLine::with_name) {
-            line.append("  ").append(procedure);
+        std::string line(form.prefix);
+        if (line.empty()) {
+            line.append(TraceLog::failure_mark).append("  ").append(procedure).append(" ：　");
         }
-        trace.write(line + " ：　" + std::to_string(error.number()));
+        trace.write(line + std::to_string(error.number()));
     } catch (...) {
         // On a full disk the log cannot take the line either; the report on the screen tells it.
         return;

@@ -11,11 +11,16 @@
 
 namespace veldrana {
 
-// The two forms of the error line; which one a procedure writes is part of the log's format.
-enum class ErrorLine {
-    with_name,    // "エラー発生  Private Sub a_2_t() ：　5"
-    number_only,  // "エラー発生 ：　5"
+// What stands in front of the number in a procedure's error line; which form a procedure writes is
+// part of the log's format.
+struct ErrorLine {
+    std::string_view prefix;
+
+    static const ErrorLine with_name;    // "エラー発生  Private Sub cmd_henkan() ：　5"
+    static const ErrorLine number_only;  // "エラー発生 ：　5"
 };
+inline constexpr ErrorLine ErrorLine::with_name{""};
+inline constexpr ErrorLine ErrorLine::number_only{"エラー発生 ：　"};
 
 // Writes the error line of the procedure where the failure was met. Those around it write none: in
 // the log one failure is one line.

@@ -10,6 +10,7 @@
 // quote.
 #pragma once
 
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,9 +31,25 @@ class QuotedLine {
     std::string line_;
 };
 
-// The fields of one line; an empty line has one empty field. A field whose last quote stands
-// before its end needs a text of its own, so fields are texts, not views.
-void split_quoted_fields(std::string_view line, std::vector<std::string>& fields);
+// The fields of one line as views of it; an empty line has one empty field. Valid as long as the
+// line and this object's next split.
+class QuotedFields {
+  public:
+    void split(std::string_view line);
+    std::size_t size() const noexcept { return fields_.size(); }
+    std::string_view operator[](std::size_t index) const noexcept { return fields_[index]; }
+    const std::vector<std::string_view>& all() const noexcept { return fields_; }
+
+  private:
+    // Of one field as it stands in the line.
+    std::string_view value_of(std::string_view field);
+
+    std::vector<std::string_view> fields_;
+    // Fields whose last quote stands before their end: what is left is in no one piece.
+    std::deque<std::string> joined_;
+};
+
+// The same as texts.
 std::vector<std::string> split_quoted_fields(std::string_view line);
 
 // Reads a file field by field, without regard to how many stand in a line: a line end ends a
@@ -44,13 +61,39 @@ class QuotedFieldReader {
     // The next field; failure 62 when there is none. The view is valid until the next call.
     std::string_view next();
 
-    // Whether every field was read.
+    // Whether every field was read. Gives up what next gave.
     bool at_end();
 
   private:
     LineSource& source_;
-    std::vector<std::string> fields_;
+    QuotedFields fields_;
     std::size_t next_field_ = 0;
+};
+
+// Reads rows of a fixed number of columns, field by field: a line of too few takes the rest from
+// the line behind it, one of too many leaves the rest for the next row.
+class RowReader {
+  public:
+    RowReader(LineSource& source, std::size_t columns) : source_(source), row_(columns) {}
+
+    // Failure 62 when a field is missing.
+    void read();
+
+    // Whether every field was read. Gives up the row.
+    bool at_end();
+
+    // By the columns' places from 0. Valid until the next call of read or at_end.
+    std::string_view operator[](std::size_t column) const noexcept { return row_[column]; }
+    std::span<const std::string_view> columns() const noexcept { return row_; }
+
+  private:
+    void read_across_lines();
+
+    LineSource& source_;
+    QuotedFields fields_;
+    std::size_t next_field_ = 0;
+    std::vector<std::string_view> row_;
+    std::deque<std::string> kept_;  // the columns of a row that crosses lines
 };
 
 }  // namespace veldrana

@@ -17,7 +17,7 @@ class LineSource {
     // call.
     virtual bool next_line(std::string_view& line) = 0;
 
-    // Whether every line was read.
+    // Whether every line was read. Gives up the line that next_line gave.
     virtual bool at_end() = 0;
 };
 

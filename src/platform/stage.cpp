@@ -26,4 +26,18 @@ std::size_t Stage::count_file_rec(std::string_view path, std::size_t beyond) con
     return count;
 }
 
+void Stage::sort(const SortCommand& command) const {
+    trace.write("sort " + command.from + " " + command.to);
+    std::string buffer(256, '\0');
+    int answer = SortService::busy;
+    while (answer == SortService::busy) {
+        person.pending_events();
+        answer = sorter.ksort(command.text(), buffer);
+    }
+}
+
+void Stage::remove(std::string_view path) const {
+    disk.remove(path);
+}
+
 }  // namespace veldrana

@@ -1,14 +1,16 @@
-// Owns what every stage of a run is handed to do its work with: the disk, the trace log, and the
-// two controls that show how far it is. A stage opens its files here, so that each opening stands
-// in the trace log.
+// Owns what every stage of a run is handed to do its work with: the disk, the trace log, the sort
+// service, and the two controls that show how far it is. A stage opens its files here, so that each
+// opening stands in the trace log.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
 
 #include "common/controls.h"
+#include "common/person.h"
 #include "common/trace_log.h"
 #include "platform/disk.h"
+#include "platform/sort_service.h"
 #include "platform/text_file.h"
 
 namespace veldrana {
@@ -16,6 +18,8 @@ namespace veldrana {
 struct Stage {
     Disk& disk;
     TraceLog& trace;
+    SortService& sorter;
+    Person& person;
     Label& lblCFG;
     ProgressBar& ProgressBar1;
 
@@ -29,6 +33,12 @@ struct Stage {
     // starts the progress bar with it; the maximum is `beyond` more than the count. Returns the
     // count. The file is only read.
     std::size_t count_file_rec(std::string_view path, std::size_t beyond = 1) const;
+
+    // Has a file sorted; events of the screen run before each attempt while the service is busy.
+    void sort(const SortCommand& command) const;
+
+    // Deletes a file, which must be there.
+    void remove(std::string_view path) const;
 };
 
 }  // namespace veldrana

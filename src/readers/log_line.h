@@ -2,6 +2,7 @@
 // ends in it, whatever the form of its log; docs/formats/log-line.md tells it to other programs.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "common/quoted_fields.h"
@@ -10,6 +11,26 @@ namespace veldrana {
 
 // The file that every reader writes, in the folder of the log.
 constexpr std::string_view log_line_file = "zlog_1.txt";
+
+// The fields' places from 0.
+namespace log_line {
+enum Field : std::size_t {
+    year,
+    month,
+    day,
+    time,
+    call,
+    report_sent,
+    report_received,
+    band,
+    mode,
+    op,
+    memo,
+    frequency,
+    number_received,
+    count
+};
+}  // namespace log_line
 
 struct LogLine {
     std::string_view year = {};

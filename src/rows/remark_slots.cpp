@@ -12,7 +12,7 @@ bool RemarkSlot::enter(std::string_view value) {
     return true;
 }
 
-void sort_slots(RemarkSlots& slots, RemarkUse& use) {
+RemarkLayout sort_slots(RemarkSlots& slots, const RemarkLengths& lengths, RemarkUse& use) {
     std::vector<std::string> captions;
     for (const RemarkSlot& slot : slots) {
         if (!slot.caption.get().empty()) {
@@ -20,12 +20,21 @@ void sort_slots(RemarkSlots& slots, RemarkUse& use) {
         }
     }
     captions.resize(remark_slot_count);
+    RemarkLayout layout;
     for (std::size_t i = 0; i < remark_slot_count; ++i) {
         slots[i].caption = captions[i];
         if (const std::optional<RemarkItem> item = remark_item_named(captions[i])) {
             use.mark(*item);
+            layout.items.push_back(*item);
         }
+        layout.cfg += captions[i] + ",";
+        layout.cfg_len += (captions[i].empty() ? "0" : set_Rmk_Len(lengths, captions[i])) + ",";
     }
+    if (layout.cfg == std::string(remark_slot_count, ',')) {
+        // One comma more than the slots leave behind; kept.
+        layout.cfg = ",,,,,,,";
+    }
+    return layout;
 }
 
 }  // namespace veldrana

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 #include "common/controls.h"
 #include "settings/remark_items.h"
@@ -20,8 +22,15 @@ class RemarkSlot : public Label {
 
 using RemarkSlots = ControlArray<RemarkSlot, remark_slot_count>;
 
-// Moves the items of one remark up, so that no empty slot stands in front of an item, and marks
-// them as used. Sort_2 does it for Rmks 1, Sort_3 for Rmks 2.
-void sort_slots(RemarkSlots& slots, RemarkUse& use);
+// The layout of one remark as a run uses it and as the option files keep it.
+struct RemarkLayout {
+    std::vector<RemarkItem> items;  // in slot order
+    std::string cfg;                // the names, a comma behind each of the six slots
+    std::string cfg_len;            // their lengths in the same way
+};
+
+// Moves the items of one remark up, so that no empty slot stands in front of an item, marks them as
+// used and gives the layout. Sort_2 does it for Rmks 1, Sort_3 for Rmks 2.
+RemarkLayout sort_slots(RemarkSlots& slots, const RemarkLengths& lengths, RemarkUse& use);
 
 }  // namespace veldrana

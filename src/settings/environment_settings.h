@@ -11,6 +11,8 @@ struct EnvironmentSettings {
     // The user texts of the log book, of which one may be used.
     std::string Text_data_dir_A;
     std::string Text_data_dir_B;
+    std::string name_mas_dir;  // in use if it holds a backslash, and so the next one
+    std::string qth_mas_dir;
 };
 
 }  // namespace veldrana

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace veldrana {
@@ -27,6 +28,25 @@ constexpr std::array<std::string_view, remark_item_count> remark_item_names{
     "memo", "memo=", "OP", "OP %", "ｺﾝﾃｽﾄ", "Rcvd", "Rmks1", "Rmks2"};
 
 std::optional<RemarkItem> remark_item_named(std::string_view name);
+
+// How many characters of each item a remark takes; 0: all of it.
+class RemarkLengths {
+  public:
+    std::size_t of(RemarkItem item) const noexcept {
+        return lengths_[static_cast<std::size_t>(item)];
+    }
+    void set(RemarkItem item, std::size_t length) noexcept {
+        lengths_[static_cast<std::size_t>(item)] = length;
+    }
+    std::size_t sum() const noexcept;
+
+  private:
+    std::array<std::size_t, remark_item_count> lengths_{};
+};
+
+// The length of an item by its screen name, as text. The look-up knows "memo=" by a name that it
+// has not ("momo="), so for this item and for names of no item it is "0"; kept, layouts rest on it.
+std::string set_Rmk_Len(const RemarkLengths& lengths, std::string_view name);
 
 // Which items have stood in a slot at the start of some run since the program started: marks are
 // set and never taken back, so that readers go on extracting what was wanted once.

@@ -107,12 +107,12 @@ TEST_F(ProgramEndTest, AFileThatCannotBeDeletedDoesNotKeepTheOthers) {
 // Its name fits the pattern of the work files; it is still the user's log.
 TEST(ProgramEndLog, TheChosenLogIsNeverDeleted) {
     ProgramKit kit;
-    kit.put_text("C:\\log\\zlog_9.txt", "mon day time  callsign      sent\r\n");
+    kit.put_text("C:\\log\\zlog_9.txt", sample_txt_log);
     kit.start();
     kit.open("C:\\log\\ZLOG_9.TXT");
     kit.screen().cmdStart.press();
     kit.screen().tool_end.press();
-    EXPECT_EQ(kit.memory.bytes("C:\\log\\zlog_9.txt"), "mon day time  callsign      sent\r\n");
+    EXPECT_EQ(kit.memory.bytes("C:\\log\\zlog_9.txt"), sample_txt_log);
     EXPECT_FALSE(kit.memory.file_exists("C:\\log\\zlog_1.txt"));
 }
 

@@ -18,7 +18,7 @@ namespace veldrana {
 struct ProgramKit {
     explicit ProgramKit(std::string_view program_folder = "C:\\veldrana") {
         memory.put_folder(program_folder);
-        program.emplace(Ports{disk, clock, person}, program_folder, "C:\\WINDOWS");
+        program.emplace(Ports{disk, clock, person, sorter}, program_folder, "C:\\WINDOWS");
     }
 
     bool start() {
@@ -55,6 +55,7 @@ struct ProgramKit {
     FailingDisk disk{memory};
     FixedClock clock;
     ScriptedPerson person;
+    StableSort sorter{disk};
     std::optional<Program> program;
 };
 
@@ -65,5 +66,10 @@ inline constexpr std::string_view sample_all_log =
     "%%JA1ZZZ%% SSN (7012)\r\n"
     "2025/04/26 21:06 JR8YYX/1     59  11M     57  101H    101   -     430  FM   1  "
     "%%JA1ZZY%%\r\n";
+
+// A .TXT log of one contact.
+inline constexpr std::string_view sample_txt_log =
+    "mon day time  callsign      sent\r\n"
+    "08  03 1205 JA1ZZA     59          59 101               430   FM      1\r\n";
 
 }  // namespace veldrana

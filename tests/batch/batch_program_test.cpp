@@ -21,7 +21,7 @@ using testing::Not;
 using testing::StartsWith;
 
 const std::string ten_counters =
-    " 今 回 の処理数\t0\n 複 数 の局の数\t0\n 単 数 の局の数\t0\n 複 ・単の合計数\t0\n"
+    " 今 回 の処理数\t2\n 複 数 の局の数\t0\n 単 数 の局の数\t2\n 複 ・単の合計数\t2\n"
     " No QSL 局の数\t0\n Name 取得の数\t0\n ＪＡＲＬ登録の数\t0\n ＪＡＲＬ無登録数\t0\n"
     " ＪＡＲＬ無検索数\t0\n Text_data 取得数\t0\n";
 
@@ -225,7 +225,7 @@ TEST_F(BatchProgram, LogThatBearsTheNameOfTheIntermediateFileIsNotWritten) {
 
 TEST_F(BatchProgram, LogWhoseNameFitsAWorkFileIsNotDeleted) {
     const fs::path named = log.parent_path() / "zlog_7.txt";
-    const std::string bytes = "mon day time  callsign      sent\r\n";
+    const std::string bytes(sample_txt_log);
     write_bytes(named, bytes);
     EXPECT_EQ(run({"convert", named.string()}).status, 0);
     EXPECT_EQ(read_bytes(named), bytes);

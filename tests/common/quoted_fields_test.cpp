@@ -154,14 +154,47 @@ TEST(SplitQuotedFields, JoinsFieldsBehindAnOddQuoteUpToTheNext) {
               (Fields{R"(5"9","b","c"d)", "e"}));
 }
 
-TEST(SplitQuotedFields, ReplacesWhatTheListHeld) {
-    Fields fields{"old", "old", "old"};
-    split_quoted_fields(R"("a")", fields);
-    EXPECT_THAT(fields, ElementsAre("a"));
-    split_quoted_fields(R"("b",c,"d")", fields);
-    EXPECT_THAT(fields, ElementsAre("b", "c", "d"));
-    split_quoted_fields("", fields);
-    EXPECT_THAT(fields, ElementsAre(""));
+TEST(QuotedFields, EachSplitReplacesTheOneBefore) {
+    QuotedFields fields;
+    fields.split(R"("a",b,"c")");
+    EXPECT_THAT(fields.all(), ElementsAre("a", "b", "c"));
+    fields.split(R"("d"e)");
+    EXPECT_THAT(fields.all(), ElementsAre("de"));
+    fields.split("");
+    EXPECT_THAT(fields.all(), ElementsAre(""));
+}
+
+TEST(RowReader, ReadsRowsOfItsColumns) {
+    StringLines lines({R"("a","b")", R"("c","d")"});
+    RowReader row(lines, 2);
+    row.read();
+    EXPECT_THAT(row.columns(), ElementsAre("a", "b"));
+    EXPECT_FALSE(row.at_end());
+    row.read();
+    EXPECT_THAT(row.columns(), ElementsAre("c", "d"));
+    EXPECT_TRUE(row.at_end());
+}
+
+TEST(RowReader, AShortLineTakesTheRestFromTheNextOne) {
+    StringLines lines({R"("a","b","c")", R"("d")", R"("e","f","g","h")", R"("i")"});
+    RowReader row(lines, 3);
+    row.read();
+    row.read();
+    EXPECT_THAT(row.columns(), ElementsAre("d", "e", "f"));
+    row.read();
+    EXPECT_THAT(row.columns(), ElementsAre("g", "h", "i"));
+    EXPECT_TRUE(row.at_end());
+}
+
+TEST(RowReader, AMissingColumnIsAReadPastTheEnd) {
+    StringLines lines({R"("a")"});
+    RowReader row(lines, 2);
+    try {
+        row.read();
+        FAIL() << "no failure";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.failure(), Failure::input_past_end);
+    }
 }
 
 TEST(QuotedFields, SurviveWritingAndReadingWithEvenQuotesAndNoComma) {

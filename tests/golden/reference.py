@@ -38,10 +38,14 @@ def write_case(folder: Path) -> None:
         path = case.expected / name
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(raw)
+    # Only a run that came to its end shows its counters.
+    case.counters.unlink(missing_ok=True)
+    if outcome.counters:
+        case.counters.write_bytes(outcome.counters.encode())
 
 
 def check_case(folder: Path) -> list[str]:
-    """What is wrong with expected/ of a case, a line each."""
+    """What is wrong with the expectations of a case, a line each."""
     case, outcome = compute(folder)
     found = load_tree(case.expected)
     complaints = []
@@ -53,6 +57,9 @@ def check_case(folder: Path) -> list[str]:
         elif found[name] != outcome.files[name]:
             at = first_difference(found[name], outcome.files[name])
             complaints.append(f"expected/{name} differs from the rules at byte {at}")
+    counters = case.counters.read_bytes() if case.counters.exists() else b""
+    if counters != outcome.counters.encode():
+        complaints.append("counters.txt differs from the rules")
     return complaints
 
 
@@ -89,7 +96,7 @@ def check(root: Path) -> int:
 def main() -> int:
     parser = argparse.ArgumentParser(description="expected files of the golden cases")
     commands = parser.add_subparsers(dest="command", required=True)
-    writing = commands.add_parser("write", help="make expected/ of cases anew")
+    writing = commands.add_parser("write", help="make the expectations of cases anew")
     writing.add_argument("cases", type=Path, nargs="+", metavar="CASE_DIR")
     checking = commands.add_parser("check", help="compute every case again and compare")
     checking.add_argument("root", type=Path, nargs="?", default=CASES, metavar="ROOT")

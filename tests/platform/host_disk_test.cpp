@@ -22,6 +22,7 @@
 
 #include "common/run_time_error.h"
 #include "platform/text_file.h"
+#include "tests/doubles/memory_disk.h"
 #include "tests/doubles/scratch_folder.h"
 
 namespace veldrana {
@@ -116,19 +117,29 @@ class Mode {
     fs::perms before_;
 };
 
+// Files of a test can be read by every user, whatever the caller's mask.
+class CommonFileMask {
+  public:
+    CommonFileMask() = default;
+    CommonFileMask(const CommonFileMask&) = delete;
+    CommonFileMask& operator=(const CommonFileMask&) = delete;
+    ~CommonFileMask() { umask(before_); }
+
+  private:
+    mode_t before_ = umask(0022);
+};
+
 class HostDiskTest : public testing::Test {
   protected:
     HostDiskTest() {
         fs::create_directories(c_ / "sub");
         fs::create_directories(program_);
         write_bytes(c_ / "sub" / "file.txt", "JA1ZZZ");
-        for (const fs::path& folder : {scratch_.path(), c_, c_ / "sub"}) {
-            fs::permissions(folder, static_cast<fs::perms>(0755));
-        }
         // Whoever the test runs as may write into the program's folder.
         fs::permissions(program_, static_cast<fs::perms>(0777));
     }
 
+    const CommonFileMask mask_;
     ScratchFolder scratch_;
     const fs::path c_ = scratch_.path() / "c";
     const fs::path program_ = scratch_.path() / "program";
@@ -755,6 +766,20 @@ TEST_F(HostDiskTest, CopiesAnEmptyFile) {
 TEST_F(HostDiskTest, KeepsTheFileThatAMissingOneShouldReplace) {
     EXPECT_EQ(failure_of([&] { copy_file(disk_, R"(C:\sub\none.dat)", R"(C:\sub\file.txt)"); }),
               53);
+    EXPECT_EQ(read_bytes(c_ / "sub" / "file.txt"), "JA1ZZZ");
+}
+
+TEST_F(HostDiskTest, PassesOnEveryFailureOfACopy) {
+    const auto copy = [](Disk& disk) { copy_file(disk, R"(C:\sub\file.txt)", R"(C:\sub\to.txt)"); };
+    FailingDisk counting(disk_);
+    copy(counting);
+    // At the least two openings, a read, a write and the close, where the last bytes may fail.
+    ASSERT_GE(counting.operations(), 5U);
+    for (std::size_t operation = 1; operation <= counting.operations(); ++operation) {
+        FailingDisk failing(disk_);
+        failing.fail_at(operation, Failure::device_error);
+        EXPECT_EQ(failure_of([&] { copy(failing); }), 57) << operation;
+    }
     EXPECT_EQ(read_bytes(c_ / "sub" / "file.txt"), "JA1ZZZ");
 }
 

@@ -10,6 +10,7 @@
 
 #include "common/run_time_error.h"
 #include "tests/doubles/memory_disk.h"
+#include "tests/doubles/scripted_person.h"
 #include "tests/doubles/string_lines.h"
 
 namespace veldrana {
@@ -27,10 +28,17 @@ class StageTest : public testing::Test {
     MemoryDisk disk_;
     std::vector<std::string> traced_;
     TraceLog trace_;
+    StableSort sorter_{disk_};
+    ScriptedPerson person_;
     Form form_;
     Label label_{form_, "lblCFG"};
     ProgressBar bar_{form_, "ProgressBar1"};
-    const Stage stage_{disk_, trace_, label_, bar_};
+    const Stage stage_{.disk = disk_,
+                       .trace = trace_,
+                       .sorter = sorter_,
+                       .person = person_,
+                       .lblCFG = label_,
+                       .ProgressBar1 = bar_};
 };
 
 TEST_F(StageTest, OpensAFileToReadAndTracesIt) {

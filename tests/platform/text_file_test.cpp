@@ -396,6 +396,16 @@ TEST_F(FailingOutput, TellsAtAFlushThatTheDiskIsFull) {
     EXPECT_EQ(failure_of([&] { output.flush(); }), 61);
 }
 
+TEST_F(FailingOutput, DoesNotTryAgainWhatAFlushCouldNotWrite) {
+    {
+        TextOutput output(failing_, path);
+        output.write_line("a");
+        failing_.fail_at(1, Failure::disk_full);
+        EXPECT_EQ(failure_of([&] { output.flush(); }), 61);
+    }
+    EXPECT_EQ(disk_.bytes(path), "");
+}
+
 TEST_F(FailingOutput, TellsThatTheFileCannotBeOpened) {
     failing_.fail_writing("log.txt", Failure::permission_denied);
     EXPECT_EQ(failure_of([&] { TextOutput(failing_, path); }), 70);

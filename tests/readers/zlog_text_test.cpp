@@ -9,6 +9,7 @@
 #include "platform/code_page_932.h"
 #include "tests/doubles/collected_trace.h"
 #include "tests/doubles/memory_disk.h"
+#include "tests/doubles/scripted_person.h"
 
 namespace veldrana {
 namespace {
@@ -86,7 +87,7 @@ class ZlogText : public testing::Test {
 
     std::vector<std::vector<std::string>> read_bytes_of(InputKind kind, const std::string& bytes) {
         disk.put("C:\\log\\x", bytes);
-        const Stage stage{disk, trace.log, lblCFG, bar};
+        const Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
         const TextLogRequest request{
             .in_name = "C:\\log\\x", .in_Dir = "C:\\log\\", .options = options, .use = use};
         kept = kind == InputKind::all ? a_2_t(stage, request) : t_2_t(stage, request);
@@ -107,6 +108,8 @@ class ZlogText : public testing::Test {
     ProgressBar bar{form, "ProgressBar1"};
     MemoryDisk disk;
     CollectedTrace trace;
+    StableSort sorter{disk};
+    ScriptedPerson person;
     RunOptions options{.Check01 = true, .Check15 = false, .txtOp_name = "", .txtYYYY = "2025"};
     RemarkUse use;
     std::size_t kept = 0;

@@ -20,23 +20,24 @@ class RemarkSlotsTest : public testing::Test {
     Form form;
     RemarkSlots slots{form, "lblRmks1"};
     RemarkUse use;
+    RemarkLengths lengths;
 };
 
 TEST_F(RemarkSlotsTest, EmptySlotsBetweenItemsAreClosedUp) {
     slots[0].caption = "memo";
     slots[3].caption = "OP %";
     slots[5].caption = "Rcvd";
-    sort_slots(slots, use);
+    sort_slots(slots, lengths, use);
     EXPECT_THAT(captions(), ElementsAre("memo", "OP %", "Rcvd", "", "", ""));
 }
 
 TEST_F(RemarkSlotsTest, ItemsInSlotsAreMarkedAndStayMarked) {
     slots[2].caption = "memo=";
-    sort_slots(slots, use);
+    sort_slots(slots, lengths, use);
     EXPECT_TRUE(use.in_use(RemarkItem::memo_equals));
     EXPECT_FALSE(use.in_use(RemarkItem::memo));
     slots[0].caption = "";
-    sort_slots(slots, use);
+    sort_slots(slots, lengths, use);
     EXPECT_TRUE(use.in_use(RemarkItem::memo_equals));
 }
 

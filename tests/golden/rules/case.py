@@ -1,4 +1,4 @@
-"""A case folder: case.txt, input/ and expected/. README.md tells how they look."""
+"""A case folder: case.txt, input/, expected/ and counters.txt. README.md tells how they look."""
 
 from dataclasses import dataclass, field
 from pathlib import Path
@@ -19,6 +19,10 @@ class Case:
     @property
     def expected(self) -> Path:
         return self.folder / "expected"
+
+    @property
+    def counters(self) -> Path:
+        return self.folder / "counters.txt"
 
 
 def find_cases(root: Path) -> list[Path]:

@@ -17,6 +17,27 @@ class RunTimeFailure(Exception):
 
 
 INVALID_CALL = 5
+TYPE_MISMATCH = 13
+PAST_THE_END = 62
+NO_SUCH_FOLDER = 76
+
+
+class Drive(dict[str, bytes]):
+    """All files of the drive by their paths, and the folders that stand on it."""
+
+    def __init__(self, files: dict[str, bytes], more_folders: list[str]):
+        super().__init__(files)
+        self._folders = {""}
+        for path in [*files, *more_folders]:
+            parts = path.split("/")
+            self._folders.update("/".join(parts[:depth]) + "/" for depth in range(1, len(parts)))
+
+    def has_folder(self, folder: str) -> bool:
+        return folder in self._folders
+
+    def delete(self, *paths: str) -> None:
+        for path in paths:
+            self.pop(path, None)
 
 
 def load_tree(root: Path) -> dict[str, bytes]:
@@ -48,12 +69,67 @@ def read_lines(raw: bytes) -> list[str]:
 class LineWriter:
     """A text file being written. What was written stays when a failure ends the run."""
 
-    def __init__(self, files: dict[str, bytes], path: str):
+    def __init__(self, files: Drive, path: str):
+        if not files.has_folder(folder_of(path)):
+            raise RunTimeFailure(NO_SUCH_FOLDER)
         self._files = files
         self._path = path
         files[path] = b""
 
+    def write_line(self, line: str) -> None:
+        self._files[self._path] += sjis.encode(line) + b"\r\n"
+
     def write_quoted(self, fields: list[str]) -> None:
         """One line, each field in double quotes. A quote inside a field is not escaped."""
-        line = ",".join(f'"{field}"' for field in fields)
-        self._files[self._path] += sjis.encode(line) + b"\r\n"
+        self.write_line(",".join(f'"{field}"' for field in fields))
+
+
+class FieldReader:
+    """Reads a file field by field, over the ends of its lines."""
+
+    def __init__(self, files: Drive, path: str):
+        self._lines = read_lines(files[path])
+        self._fields: list[str] = []
+
+    def at_end(self) -> bool:
+        return not self._lines and not self._fields
+
+    def read(self, count: int) -> list[str]:
+        while len(self._fields) < count:
+            if not self._lines:
+                raise RunTimeFailure(PAST_THE_END)
+            self._fields += split_fields(self._lines.pop(0))
+        record = self._fields[:count]
+        del self._fields[:count]
+        return record
+
+    def records(self, count: int):
+        """All records of a file that has to hold one: the end is tested behind each."""
+        while True:
+            yield self.read(count)
+            if self.at_end():
+                return
+
+
+def split_fields(line: str) -> list[str]:
+    """The fields of a line, parted by the commas that stand outside double quotes."""
+    fields = [""]
+    quoted = False
+    for character in line:
+        if character == "," and not quoted:
+            fields.append("")
+            continue
+        quoted ^= character == '"'
+        fields[-1] += character
+    return [without_quotes(field) for field in fields]
+
+
+def without_quotes(field: str) -> str:
+    opened = field.lstrip(" ")
+    if not opened.startswith('"'):
+        return sjis.trim(field)
+    inside = opened[1:]
+    if '"' not in inside:
+        return inside
+    last = inside.rindex('"')
+    return inside[:last] + inside[last + 1 :]

@@ -1,0 +1,17 @@
+#include "rows/row_formats.h"
+
+#include "common/text.h"
+#include "rows/time_rule.h"
+
+namespace veldrana {
+
+void write_date(std::string& text, std::string_view date) {
+    const DatePieces pieces = split_date(date);
+    text.assign(pieces.year).append("/").append(pieces.month).append("/").append(pieces.day);
+}
+
+void write_time(std::string& text, std::string_view time) {
+    text.assign(left(time, 2)).append(":").append(right(time, 3));
+}
+
+}  // namespace veldrana
