@@ -16,7 +16,7 @@ log="$demo/logs/allja_sample.all"
 
 echo
 echo "The log, $(($(wc -l <"$log") - 1)) contacts as the contest logger wrote them:"
-iconv -f CP932 -t UTF-8 "$log" | head -n 6
+iconv -f CP932 -t UTF-8 "$log" | sed -n '1,6p'
 
 build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" --keep-work \
     --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" convert "$log" >"$demo/counters.txt"
@@ -24,4 +24,4 @@ build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" --keep-work \
 intermediate="$demo/logs/zlog_1.txt"
 echo
 echo "The same contacts as the stages of a run pass them on, $(wc -l <"$intermediate") lines in $intermediate:"
-iconv -f CP932 -t UTF-8 "$intermediate" | head -n 5
+iconv -f CP932 -t UTF-8 "$intermediate" | sed -n '1,5p'

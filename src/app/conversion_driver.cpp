@@ -52,7 +52,7 @@ bool user_text_undecided(const Program& program) {
 }
 
 void warn_of_no_lines(MainScreen& screen) {
-    screen.tell("該当するデータは有りませんでした。", colours::red);
+    screen.lblCFG.show("該当するデータは有りませんでした。", colours::red);
     screen.Check15.fore_colour = colours::red;
     screen.txtOp_name.fore_colour = colours::red;
 }
@@ -63,6 +63,8 @@ void enable_results(Program& program) {
     screen.mnuDisp_ham_n.enabled = true;
     screen.cmdDisp_contest.enabled = true;
     screen.cmdDisp_Hamlog.enabled = true;
+    screen.tool_contest.enabled = true;
+    screen.tool_hamlog.enabled = true;
     const bool dup = program.disk.file_exists(program.log.dup);
     screen.mnuDisp_dup.enabled = dup;
     screen.tool_dup.enabled = dup;
@@ -122,7 +124,7 @@ RunOptions take_options(MainScreen& screen) {
     options.txtYYYY = screen.txtYYYY.text;
     options.txtRmks1 = trim(screen.txtRmks1.text.get());
     options.txtRmks2 = trim(screen.txtRmks2.text.get());
-    screen.tell("", colours::black);
+    screen.lblCFG.show("", colours::black);
     screen.Check15.fore_colour = colours::black;
     screen.txtOp_name.fore_colour = colours::black;
     return options;
@@ -158,6 +160,16 @@ struct Layouts {
     RemarkLayout rmks1;
     RemarkLayout rmks2;
 };
+
+RemarkLayout Sort_2(Program& program) {
+    program.trace.write("Private Sub Sort_2()");
+    return sort_slots(program.screen.lblRmks1, program.remark_lengths, program.remark_use);
+}
+
+RemarkLayout Sort_3(Program& program) {
+    program.trace.write("Private Sub Sort_3()");
+    return sort_slots(program.screen.lblRmks2, program.remark_lengths, program.remark_use);
+}
 
 // What a conversion leaves for the end of the run.
 struct Conversion {
@@ -215,7 +227,7 @@ void make_dupe_list(Program& program) {
 // A conversion: log to rows, stage by stage.
 Conversion cmd_henkan(Program& program, const Layouts& layouts) {
     return enter_procedure(program.trace, "Private Sub cmd_henkan()", [&] {
-        program.screen.tell("処 理 開 始", colours::green);
+        program.screen.lblCFG.show("処 理 開 始", colours::green);
         program.kept_lines = 0;
         count_in_name(program);
         Conversion conversion;
@@ -319,10 +331,10 @@ void finish_conversion(Program& program, const Conversion& conversion) {
     const OutputNames& names = program.log.names;
     for (const std::string& file :
          {names.out_name_hamj0, names.out_name_conj0, names.out_name_hamj, names.out_name_conj}) {
-        remove_matching(program.disk, file);
+        remove_if_there(program, file);
     }
 
-    screen.tell("処 理 終 了", colours::blue);
+    screen.lblCFG.show("処 理 終 了", colours::blue);
     program.trace.write("Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了");
     screen.disp_enable_t();
     screen.enable_member_search(true);
@@ -363,7 +375,9 @@ void cmdStart_Click(Program& program) {
     program.trace.write("");
     enter_procedure(program.trace, "Private Sub cmdStart_Click()", [&] {
         trace_run(program);
-        cmdStart_1(program);
+        if (!cmdStart_1(program)) {
+            return;
+        }
         screen.mnuQSOBank.enabled =
             program.disk.file_exists(program.log.in_Dir + std::string(log_line_file));
         program.trace.write("正常終了");
@@ -374,29 +388,27 @@ void cmdStart_Click(Program& program) {
     });
 }
 
-void cmdStart_1(Program& program) {
+bool cmdStart_1(Program& program) {
     MainScreen& screen = program.screen;
-    enter_procedure(program.trace, "Private Sub cmdStart_1()", [&] {
+    return enter_procedure(program.trace, "Private Sub cmdStart_1()", [&] {
         remove_files(program, program.paths.strPath + "Temp_Files\\", {"bak_qso.HDX"});
         if (user_text_undecided(program)) {
             program.person.show({.text = "どちらのユーザーテキストファイルか選択して下さい！"});
-            return;
+            return false;
         }
 
         program.counters.clear_search();
         screen.lblIn_rec_count.caption = "";
         screen.lblMsg.caption = "";
         screen.ProgressBar1.visible = true;
-        const Layouts layouts{
-            sort_slots(screen.lblRmks1, program.remark_lengths, program.remark_use),
-            sort_slots(screen.lblRmks2, program.remark_lengths, program.remark_use)};
+        const Layouts layouts{Sort_2(program), Sort_3(program)};
 
         screen.enable_start(false);
-        screen.tell("処 理 開 始", colours::green);
+        screen.lblCFG.show("処 理 開 始", colours::green);
         if (program.run_mode == RunMode::replacement) {
             cmd_chikan(program);
             screen.enable_start(true);
-            screen.tell("　　　置換終了", colours::blue);
+            screen.lblCFG.show("　　　置換終了", colours::blue);
             program.trace.write("Private Sub cmdStart_1() lblCFG.Caption = 置換終了");
         } else {
             const Conversion conversion = cmd_henkan(program, layouts);
@@ -410,6 +422,7 @@ void cmdStart_1(Program& program) {
         kettuka_disp(program.counters, screen);
         enable_results(program);
         screen.SSTab1.tab = result_tab;
+        return true;
     });
 }
 

@@ -13,9 +13,9 @@ namespace veldrana {
 // The start button: one run, with the settings it ran on in the trace log.
 void cmdStart_Click(Program& program);
 
-// A run: stops before anything has changed if the text data of the log book is on, both user texts
-// are known and none is chosen.
-void cmdStart_1(Program& program);
+// A run. False if it stopped before anything has changed: the text data of the log book is on, both
+// user texts are known and none is chosen.
+bool cmdStart_1(Program& program);
 
 // Shows how many records the chosen log has: the lines behind its heading.
 void count_in_name(Program& program);

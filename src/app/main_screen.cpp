@@ -78,11 +78,6 @@ void MainScreen::txtYYYY_Change() {
     txtYYYY.text = std::string(left(txtYYYY.text.get(), 4));
 }
 
-void MainScreen::tell(std::string_view caption, Colour colour) {
-    lblCFG.fore_colour = colour;
-    lblCFG.caption = std::string(caption);
-}
-
 void MainScreen::enable_viewers(bool on) {
     for (Control* const control : std::initializer_list<Control*>{
              &mnuDisp_in, &cmdDisp_in, &cmdDisp_contest, &cmdDisp_Hamlog, &mnuDisp_con_n,

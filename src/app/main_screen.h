@@ -133,9 +133,6 @@ struct MainScreen : Form {
     ToolButton tool_dup{*this, "＊．ｄｕｐ"};
     ToolButton tool_end{*this, "終了"};
 
-    // Puts a caption into the status label.
-    void tell(std::string_view caption, Colour colour);
-
     void Check2_Click();
     void Check3_Click();
     void txtOp_name_Change();

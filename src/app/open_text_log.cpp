@@ -1,12 +1,12 @@
 #include "app/open_text_log.h"
 
-#include <algorithm>
+#include <memory>
 
 #include "app/chosen_log.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
-#include "platform/text_file.h"
+#include "platform/code_page_932.h"
 #include "readers/zlog_text.h"
 
 namespace veldrana {
@@ -19,6 +19,15 @@ void refuse(Program& program) {
     program.screen.lblIn_name.caption = std::string(not_a_text_log);
 }
 
+// As much of the file as a heading takes; a first line may be as long as the file.
+std::string start_of_file(Program& program, const std::string& path) {
+    program.trace.write_open_for_input(path);
+    const std::unique_ptr<ByteSource> file = program.disk.open_for_reading(path);
+    std::string bytes(64, '\0');
+    bytes.resize(file->read(bytes.data(), bytes.size()));
+    return from_code_page(bytes);
+}
+
 void open_text_log(Program& program, const std::string& path) {
     ChosenLog& log = program.log;
     MainScreen& screen = program.screen;
@@ -29,14 +38,13 @@ void open_text_log(Program& program, const std::string& path) {
     if (!has_backslash(path)) {
         return;
     }
+    log.chosen = path;
     log.in_name = path;
     program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);
     set_out_names(program);
 
-    TextInput file(program.disk, path);
-    std::string_view heading;  // an empty file has none, so none that fits
-    file.next_line(heading);
+    const std::string heading = start_of_file(program, path);
     log.f_type = kind_of_extension(path);
     if (!log.f_type || !heading.starts_with(heading_of(*log.f_type))) {
         refuse(program);
@@ -77,6 +85,7 @@ void mnuOpen_con_n_Click(Program& program) {
         if (!has_backslash(path)) {
             return;
         }
+        program.log.chosen.clear();  // this file is there to be changed
         program.log.in_name = path;
         program.log.f_type.reset();
         program.run_mode = RunMode::replacement;
@@ -86,7 +95,8 @@ void mnuOpen_con_n_Click(Program& program) {
 }
 
 void cmdNow_Click(Program& program) {
-    program.screen.txtYYYY.text = std::string(left(date_text(program.clock.now()), 4));
+    enter_procedure(program.trace, "Private Sub cmdNow_Click()",
+                    [&] { program.screen.txtYYYY.text = present_year(program.clock); });
 }
 
 }  // namespace veldrana

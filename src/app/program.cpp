@@ -58,8 +58,9 @@ void Program::report(RunTimeError error) {
     trace_failure(trace, "", ErrorLine::number_only, error);
     try {
         fatal_error_exit(trace, person, error);
-    } catch (const ProgramEnd& end) {
-        ended_ = end.cause;
+    } catch (...) {
+        // Mostly the end that every report comes to; a screen that cannot show it ends there too.
+        ended_ = ProgramEnd::Cause::reported;
     }
 }
 

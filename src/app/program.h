@@ -34,7 +34,8 @@ struct Ports {
 
 // The log that was chosen, and the names that follow from it.
 struct ChosenLog {
-    std::string in_name;  // full path; a refusal text after a log was refused
+    std::string chosen;   // full path of the file that the user chose; never written nor deleted
+    std::string in_name;  // the same; a refusal text after it was refused
     std::string in_Dir;   // its folder, with a backslash at its end
     std::optional<InputKind> f_type;
     OutputNames names;

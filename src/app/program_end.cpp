@@ -11,7 +11,7 @@ template <class Step>
 void pass_over_failures(Step step) {
     try {
         step();
-    } catch (const RunTimeError&) {
+    } catch (...) {
         return;
     }
 }
@@ -70,7 +70,7 @@ void End_Click(Program& program) {
         program.trace.write("Private Sub End_Click()");
     });
     program.screen.lblCFG.large_letters = true;
-    program.screen.tell("　　終了処理中．．．", colours::green);
+    program.screen.lblCFG.show("　　終了処理中．．．", colours::green);
     program.person.pending_events();
     end_cleanup(program);
 }

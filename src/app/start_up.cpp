@@ -29,12 +29,25 @@ void open_trace_log(Program& program) {
     trace.write("strPath : " + program.paths.strPath);
 }
 
+// Named by the time. A start within the same second takes the next one: the log before it may tell
+// of a failure.
+std::string free_trace_log_path(Program& program) {
+    LocalTime time = program.clock.now();
+    const auto path = [&] {
+        return program.paths.strPath + "Error_Log\\" + file_stamp(time) + ".txt";
+    };
+    while (program.disk.file_exists(path())) {
+        time = next_second(time);
+    }
+    return path();
+}
+
 // The main screen's load.
 void Form_Load(Program& program) {
     MainScreen& screen = program.screen;
     screen.mnuDisp_dup.enabled = false;
     kettuka_disp_clear(program.counters, screen);
-    screen.txtYYYY.text = std::string(left(date_text(program.clock.now()), 4));
+    screen.txtYYYY.text = present_year(program.clock);
     screen.lblIn_name.fore_colour = colours::red;
     screen.lblInfo.fore_colour = colours::red;
     screen.lblInfo.caption = "入力ファイルを指定して下さい";
@@ -50,7 +63,7 @@ void Main(Program& program) {
     Disk& disk = program.disk;
     Paths& paths = program.paths;
     trap_failures(trace, "Public Sub Main()", ErrorLine::with_name, [&] {
-        trace.set_path(paths.strPath + "Error_Log\\" + file_stamp(program.clock.now()) + ".txt");
+        trace.set_path(free_trace_log_path(program));
         for (const std::string_view folder : folders_of_the_tree) {
             make_missing_folder(disk, paths.strPath + std::string(folder));
         }

@@ -1,7 +1,5 @@
 #include "app/work_files.h"
 
-#include "common/text.h"
-
 namespace veldrana {
 
 void remove_files(Program& program, std::string_view folder,
@@ -9,15 +7,13 @@ void remove_files(Program& program, std::string_view folder,
     if (folder.empty()) {
         return;
     }
-    const std::string log = upper(program.log.in_name);
     for (const std::string_view pattern : patterns) {
-        for (const std::string& name : program.disk.names(std::string(folder).append(pattern))) {
-            const std::string path = std::string(folder) + name;
-            if (upper(path) != log) {
-                program.disk.remove(path);
-            }
-        }
+        remove_matching(program.disk, std::string(folder).append(pattern), program.log.chosen);
     }
+}
+
+void remove_if_there(Program& program, std::string_view path) {
+    remove_matching(program.disk, path, program.log.chosen);
 }
 
 }  // namespace veldrana

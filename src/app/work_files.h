@@ -13,4 +13,7 @@ namespace veldrana {
 void remove_files(Program& program, std::string_view folder,
                   std::initializer_list<std::string_view> patterns);
 
+// The same for one file by its full path.
+void remove_if_there(Program& program, std::string_view path);
+
 }  // namespace veldrana

@@ -82,18 +82,22 @@ class BatchProgram {
         program_.event([this] { End_Click(program_); });
     }
 
-    void write_counters() {
+    // False if they could not be written.
+    bool write_counters() {
         for (std::size_t row = 0; row < counter_labels.size(); ++row) {
             output_.results << counter_labels[row] << '\t' << program_.counters.values[row] << '\n';
         }
         output_.results << std::flush;
+        return output_.results.good();
     }
 
   private:
     void show_progress() {
         const ProgressBar& bar = program_.screen.ProgressBar1;
         const std::size_t percent = bar.value * 100 / bar.maximum;
-        if (percent != shown_percent_) {
+        if (!bar.visible) {
+            output_.messages << "\r      \r" << std::flush;
+        } else if (percent != shown_percent_) {
             shown_percent_ = percent;
             output_.messages << '\r' << percent << " %" << std::flush;
         }
@@ -135,13 +139,15 @@ ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
     }
     program.screen.cmdStart.press();
     if (program.ended()) {
-        return exit_reported;
+        return exit_reported;  // whatever ends the program in a run
     }
     const bool done = program.run_finished;
-    if (done) {
-        batch.write_counters();
-    }
+    const bool written = !done || batch.write_counters();
     batch.end();
+    if (!written) {
+        output.messages << "結果を書き出せません。\n";
+        return exit_reported;
+    }
     return done ? exit_done : exit_refused;
 }
 

@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "common/text.h"
+#include "platform/code_page_932.h"
 #include "platform/environment.h"
 
 namespace veldrana {
@@ -24,15 +25,18 @@ struct Words {
     std::string kind;
 };
 
+bool is_folder(const std::filesystem::path& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
+}
+
 std::string check_drive(const std::string& word) {
     const bool letter =
         word.size() > 2 && word[1] == '=' && std::isalpha(static_cast<unsigned char>(word[0])) != 0;
     if (!letter) {
         return "X=DIR の形で指定して下さい: " + word;
     }
-    return std::filesystem::is_directory(word.substr(2))
-               ? ""
-               : "フォルダがありません: " + word.substr(2);
+    return is_folder(word.substr(2)) ? "" : "フォルダがありません: " + word.substr(2);
 }
 
 std::string check_setting(const std::string& word) {
@@ -74,7 +78,8 @@ BatchOptions options_of(const Words& words, const char* first_word) {
         options.drives[drive.front()] = drive.substr(2);
     }
     for (const std::string& word : words.settings) {
-        const std::string setting = well_formed(word);
+        // What the files of a run cannot hold becomes "?" here, so that widths come out as counted.
+        const std::string setting = from_code_page(to_code_page(well_formed(word)));
         const std::size_t equals = setting.find('=');
         options.settings.emplace_back(setting.substr(0, equals), setting.substr(equals + 1));
     }
@@ -98,9 +103,13 @@ int run_command_line(int count, char** words, const BatchOutput& output) {
         return asked_for_help ? exit_done : exit_usage;
     }
     const BatchOptions options = options_of(given, words[0]);
-    if (!std::filesystem::is_directory(options.home)) {
+    if (!is_folder(options.home)) {
         output.messages << "プログラムのフォルダがありません: " << options.home.string() << '\n';
         return exit_refused;
+    }
+    if (given.log.empty()) {
+        output.messages << "入力ログを指定して下さい。\n";
+        return exit_usage;
     }
     std::optional<InputKind> kind;
     if (!given.kind.empty()) {

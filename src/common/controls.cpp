@@ -39,6 +39,11 @@ bool Control::enter(std::string_view /*value*/) {
 Label::Label(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)), caption(*this, std::move(text)) {}
 
+void Label::show(std::string_view text, Colour colour) {
+    fore_colour = colour;
+    caption = std::string(text);
+}
+
 Frame::Frame(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)), caption(*this, std::move(text)) {}
 

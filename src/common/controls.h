@@ -116,6 +116,8 @@ class Label : public Control {
     Label(Form& form, std::string name, std::string text = {});
     Property<std::string> caption;
     Property<bool> large_letters{*this, false};
+
+    void show(std::string_view text, Colour colour);
 };
 
 class Frame : public Control {

@@ -8,6 +8,10 @@ namespace veldrana {
 OutputNames make_output_names(std::string_view in_name) {
     const std::string extension = "." + std::string(split_path(in_name).extension);
     const auto with = [&](std::string_view suffix) {
+        if (extension.size() == 1) {
+            // No name of a result may be that of the log.
+            return std::string(in_name).append(suffix);
+        }
         return replace_all(in_name, extension, suffix);
     };
     return {.out_name_conj0 = with("_c0.csv"),

@@ -7,7 +7,8 @@
 namespace veldrana {
 
 // Full paths. In the log's path "." and the extension are replaced by a suffix wherever they stand:
-// a folder whose name holds them is hit too. Kept: operators know their files by these names.
+// a folder whose name holds them is hit too. Kept: operators know their files by these names. A log
+// without an extension gets the suffix at its end.
 struct OutputNames {
     std::string out_name_conj0;     // _c0.csv
     std::string out_name_hamj0;     // _h0.csv

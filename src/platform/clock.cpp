@@ -19,6 +19,26 @@ LocalTime SystemClock::now() {
     return local_time(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now()));
 }
 
+LocalTime next_second(const LocalTime& time) {
+    namespace chrono = std::chrono;
+    const chrono::sys_days day{chrono::year{time.year} / time.month / time.day};
+    const auto later = day + chrono::hours{time.hour} + chrono::minutes{time.minute} +
+                       chrono::seconds{time.second + 1};
+    const auto new_day = chrono::floor<chrono::days>(later);
+    const chrono::year_month_day date{new_day};
+    const chrono::hh_mm_ss clock{later - new_day};
+    return {.year = static_cast<int>(date.year()),
+            .month = static_cast<int>(static_cast<unsigned>(date.month())),
+            .day = static_cast<int>(static_cast<unsigned>(date.day())),
+            .hour = static_cast<int>(clock.hours().count()),
+            .minute = static_cast<int>(clock.minutes().count()),
+            .second = static_cast<int>(clock.seconds().count())};
+}
+
+std::string present_year(Clock& clock) {
+    return digits(clock.now().year, 4);
+}
+
 std::string date_text(const LocalTime& time) {
     return digits(time.year, 4) + "/" + digits(time.month, 2) + "/" + digits(time.day, 2);
 }

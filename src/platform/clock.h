@@ -30,6 +30,12 @@ class SystemClock : public Clock {
     LocalTime now() override;
 };
 
+// One second later, by the calendar.
+LocalTime next_second(const LocalTime& time);
+
+// Four digits.
+std::string present_year(Clock& clock);
+
 // "yyyy/mm/dd"
 std::string date_text(const LocalTime& time);
 // "yyyy/mm/dd hh:mm:ss"

@@ -6,13 +6,17 @@
 
 namespace veldrana {
 
-std::size_t remove_matching(Disk& disk, std::string_view pattern) {
-    const std::vector<std::string> names = disk.names(pattern);
+std::size_t remove_matching(Disk& disk, std::string_view pattern, std::string_view keep) {
     const std::string folder(split_path(pattern).folder);
-    for (const std::string& name : names) {
-        disk.remove(folder + name);
+    std::size_t removed = 0;
+    for (const std::string& name : disk.names(pattern)) {
+        const std::string path = folder + name;
+        if (keep.empty() || !disk.same_file(path, keep)) {
+            disk.remove(path);
+            ++removed;
+        }
     }
-    return names.size();
+    return removed;
 }
 
 void copy_file(Disk& disk, std::string_view from, std::string_view to) {

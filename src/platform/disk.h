@@ -68,13 +68,17 @@ class Disk {
     virtual LocalTime modified(std::string_view path) = 0;
     virtual void remove(std::string_view path) = 0;
 
+    // Whether two paths lead to one file, by whatever names; false if one is missing.
+    virtual bool same_file(std::string_view one, std::string_view other) = 0;
+
     // The names of the files that fit a path whose last piece may hold "?" and "*", in the order of
     // their characters; none if the folder is missing.
     virtual std::vector<std::string> names(std::string_view pattern) = 0;
 };
 
-// Deletes every file that fits the path; says how many there were.
-std::size_t remove_matching(Disk& disk, std::string_view pattern);
+// Deletes every file that fits the path, but not the one that is to be kept; says how many it
+// deleted.
+std::size_t remove_matching(Disk& disk, std::string_view pattern, std::string_view keep = {});
 
 // Copies the bytes of a file over another.
 void copy_file(Disk& disk, std::string_view from, std::string_view to);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <sys/stat.h>
 #include <system_error>
 #include <utility>
@@ -93,10 +94,15 @@ bool is_folder(const fs::path& path) {
     return fs::is_directory(path, error);
 }
 
-// Also by way of a link.
+// Also by way of a link. A drive of Windows is its own root, and may be written.
 bool is_host_root(const fs::path& folder) {
+#ifdef _WIN32
+    static_cast<void>(folder);
+    return false;
+#else
     std::error_code error;
-    return fs::equivalent(folder, folder.root_path(), error);
+    return fs::equivalent(folder, "/", error);
+#endif
 }
 
 std::vector<std::string> names_in(const fs::path& folder) {
@@ -147,15 +153,24 @@ FileHandle open_file(const fs::path& path, const char* mode) {
 
 // The absolute form without dots and without a separator at its end.
 fs::path plain(const fs::path& path) {
-    const fs::path normal = fs::absolute(path).lexically_normal();
+    std::error_code error;
+    const fs::path normal = fs::absolute(path, error).lexically_normal();
     return normal.has_filename() ? normal : normal.parent_path();
 }
 
-// One file however it was reached.
-fs::path identity(const fs::path& path) {
+// What tells a file apart however it was reached, by links too; empty if it is not there.
+std::string identity(const fs::path& path) {
+#ifdef _WIN32
     std::error_code error;
-    fs::path canonical = fs::weakly_canonical(path, error);
-    return error ? path : canonical;
+    const fs::path canonical = fs::canonical(path, error);
+    return error ? std::string() : upper(to_text(canonical));
+#else
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) {
+        return {};
+    }
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+#endif
 }
 
 }  // namespace
@@ -164,7 +179,7 @@ class HostDisk::FileSource : public ByteSource {
   public:
     FileSource(const HostPath& path, std::shared_ptr<OpenFiles> open_files)
         : open_files_(std::move(open_files)) {
-        const HostPath id = identity(path);
+        const std::string id = identity(path);
         if (open_files_->written.contains(id)) {
             throw RunTimeError(Failure::already_open);
         }
@@ -186,7 +201,7 @@ class HostDisk::FileSource : public ByteSource {
 
   private:
     std::shared_ptr<OpenFiles> open_files_;
-    std::multiset<HostPath>::iterator registered_;
+    std::multiset<std::string>::iterator registered_;
     FileHandle file_;
 };
 
@@ -194,12 +209,12 @@ class HostDisk::FileSink : public ByteSink {
   public:
     FileSink(const HostPath& path, WriteMode mode, std::shared_ptr<OpenFiles> open_files)
         : open_files_(std::move(open_files)) {
-        const HostPath id = identity(path);
-        if (open_files_->written.contains(id) || open_files_->read.contains(id)) {
+        if (const std::string id = identity(path);
+            open_files_->written.contains(id) || open_files_->read.contains(id)) {
             throw RunTimeError(Failure::already_open);
         }
         file_ = open_file(path, mode == WriteMode::append ? "ab" : "wb");
-        registered_ = open_files_->written.insert(id).first;
+        registered_ = open_files_->written.insert(identity(path)).first;
     }
     FileSink(const FileSink&) = delete;
     FileSink& operator=(const FileSink&) = delete;
@@ -229,7 +244,7 @@ class HostDisk::FileSink : public ByteSink {
 
   private:
     std::shared_ptr<OpenFiles> open_files_;
-    std::set<HostPath>::iterator registered_;
+    std::set<std::string>::iterator registered_;
     FileHandle file_;
 };
 
@@ -304,17 +319,10 @@ std::optional<HostDisk::Place> HostDisk::place_of(std::string_view path) const {
 
 std::optional<HostDisk::HostPath> HostDisk::substitute_root(const Place& place) const {
     const bool in_a_root = place.letter != 0 && place.names.size() == 1;
-    const bool host_root = is_host_root(place.drive_folder);
     if (!in_a_root || program_folder_.empty()) {
         return std::nullopt;
     }
-#ifdef _WIN32
-    const bool keep_out = !can_be_written(place.drive_folder);
-    static_cast<void>(host_root);
-#else
-    const bool keep_out = host_root || !can_be_written(place.drive_folder);
-#endif
-    if (!keep_out) {
+    if (!is_host_root(place.drive_folder) && can_be_written(place.drive_folder)) {
         return std::nullopt;
     }
     return program_folder_ / (std::string("Drive_") + place.letter);
@@ -387,7 +395,11 @@ void HostDisk::make_folder(std::string_view path) {
 
 std::unique_ptr<ByteSource> HostDisk::open_for_reading(std::string_view path) {
     const HostPath found = require(path);
-    if (is_folder(found)) {
+    std::error_code error;
+    const fs::file_type type = fs::status(found, error).type();
+    // Whoever opens a pipe waits for its other end.
+    if (type == fs::file_type::directory || type == fs::file_type::fifo ||
+        type == fs::file_type::socket) {
         throw RunTimeError(Failure::path_or_file_access);
     }
     return std::make_unique<FileSource>(found, open_files_);
@@ -450,6 +462,12 @@ void HostDisk::remove(std::string_view path) {
     if (error) {
         fail(error.value());
     }
+}
+
+bool HostDisk::same_file(std::string_view one, std::string_view other) {
+    const std::optional<HostPath> first = find(one);
+    const std::optional<HostPath> second = find(other);
+    return first && second && identity(*first) == identity(*second);
 }
 
 std::vector<std::string> HostDisk::names(std::string_view pattern) {

@@ -38,6 +38,7 @@ class HostDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 
   private:
@@ -62,11 +63,11 @@ class HostDisk : public Disk {
     std::map<char, HostPath> drives_;
     HostPath program_folder_;
 
-    // The files that are open, by their host paths; shared with them, so that a file may outlive
-    // the disk.
+    // The files that are open, by what the host tells them apart with; shared with them, so that a
+    // file may outlive the disk.
     struct OpenFiles {
-        std::multiset<HostPath> read;
-        std::set<HostPath> written;
+        std::multiset<std::string> read;
+        std::set<std::string> written;
     };
     class FileSource;
     class FileSink;

@@ -15,8 +15,7 @@ TextOutput Stage::open_output(std::string_view path) const {
 }
 
 void Stage::tell(std::string_view caption, Colour colour) const {
-    lblCFG.fore_colour = colour;
-    lblCFG.caption = std::string(caption);
+    lblCFG.show(caption, colour);
 }
 
 std::size_t Stage::count_file_rec(std::string_view path, std::size_t beyond) const {

@@ -55,23 +55,23 @@ TEST_F(ConversionDriver, TraceTellsTheRunStepByStep) {
         return line.starts_with("Open ") || line.starts_with("count_file_rec ") ||
                line.starts_with("sort ") || line.starts_with("Kill ");
     });
-    EXPECT_THAT(lines,
-                ElementsAre("", "Private Sub cmdStart_Click()",
-                            "**********************************************",
-                            "Private sub cmdStart_Click()_0", "-----------------------",
-                            "入力ファイル ：C:\\log\\x.all", "入 力 件 数　：件",
-                            "Private Sub cmdStart_1()", "Private Sub cmd_henkan()",
-                            "Private Sub count_in_name()", "Private Sub henkan_at_2_t()",
-                            "Private Sub a_2_t()", "Private Sub bak_sep3()",
-                            "Private Sub Henkan_txt_2()", "Private Sub NO_SORT()",
-                            "Private Sub temp_sep()", "Private Sub sort_wakeru_c_1()",
-                            "Private Sub temp_marge()", "     中間ファイル削除開始",
-                            "     中間ファイル削除終了", "     Private Sub cmd_henkan() 終了",
-                            "Private Sub count_No_QSL()", "Private Sub No_QSL_moji_ReWrite",
-                            "Private Sub cmdStart_1() Ｖ５用に変換  out_name_hamj_new",
-                            "Private Sub cmdStart_1() Ｖ５用に変換  out_name_conj_new",
-                            "Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了",
-                            "Private Sub cmdStart_1() kettuka_disp", "正常終了"));
+    EXPECT_THAT(
+        lines,
+        ElementsAre(
+            "", "Private Sub cmdStart_Click()", "**********************************************",
+            "Private sub cmdStart_Click()_0", "-----------------------",
+            "入力ファイル ：C:\\log\\x.all", "入 力 件 数　：件", "Private Sub cmdStart_1()",
+            "Private Sub Sort_2()", "Private Sub Sort_3()", "Private Sub cmd_henkan()",
+            "Private Sub count_in_name()", "Private Sub henkan_at_2_t()", "Private Sub a_2_t()",
+            "Private Sub bak_sep3()", "Private Sub Henkan_txt_2()", "Private Sub NO_SORT()",
+            "Private Sub temp_sep()", "Private Sub sort_wakeru_c_1()", "Private Sub temp_marge()",
+            "     中間ファイル削除開始", "     中間ファイル削除終了",
+            "     Private Sub cmd_henkan() 終了", "Private Sub count_No_QSL()",
+            "Private Sub No_QSL_moji_ReWrite",
+            "Private Sub cmdStart_1() Ｖ５用に変換  out_name_hamj_new",
+            "Private Sub cmdStart_1() Ｖ５用に変換  out_name_conj_new",
+            "Private Sub cmdStart_1() lblCFG.Caption = 処 理 終 了",
+            "Private Sub cmdStart_1() kettuka_disp", "正常終了"));
 }
 
 TEST_F(ConversionDriver, SecondRunTracesTheCountAndTheSettings) {
@@ -135,12 +135,19 @@ TEST_F(ConversionDriver, UndecidedUserTextStopsBeforeAnythingHasChanged) {
     program.environment.Text_data_dir_A = "C:\\Hamlog\\a.txt";
     program.environment.Text_data_dir_B = "C:\\Hamlog\\b.txt";
     screen.Check8.value = true;
+    screen.Check27.value = true;
+    kit.put_text("C:\\log\\hamlogja_0.csv", "x");
+    kit.put_text("C:\\log\\zlog_1.txt", "of an earlier run");
     screen.cmdStart.press();
+    EXPECT_TRUE(screen.Check27.value);
+    EXPECT_FALSE(screen.mnuQSOBank.enabled);
+    EXPECT_TRUE(kit.memory.file_exists("C:\\log\\hamlogja_0.csv"));
+    EXPECT_EQ(kit.memory.bytes("C:\\log\\zlog_1.txt"), "of an earlier run");
+    EXPECT_NE(kit.trace_lines().back(), "正常終了");
     ASSERT_THAT(kit.person.boxes, SizeIs(1));
     EXPECT_EQ(kit.person.boxes[0].text, "どちらのユーザーテキストファイルか選択して下さい！");
     EXPECT_FALSE(program.run_finished);
     EXPECT_TRUE(screen.cmdStart.enabled);
-    EXPECT_FALSE(kit.memory.file_exists("C:\\log\\zlog_1.txt"));
     EXPECT_FALSE(screen.ProgressBar1.visible);
 }
 
@@ -186,9 +193,9 @@ TEST_F(ConversionDriver, ResultsAreEnabledAndTheResultTabIsShown) {
     screen.cmdStart.press();
     for (const Control* const control : std::initializer_list<const Control*>{
              &screen.mnuDisp_con_n, &screen.mnuDisp_ham_n, &screen.cmdDisp_contest,
-             &screen.cmdDisp_Hamlog, &screen.mnuDisp_dup, &screen.tool_dup, &screen.mnuJARL,
-             &screen.mnuJARL_Web_OK, &screen.mnuJARL_Web_NO, &screen.mnuJARL_Web_OK_conj,
-             &screen.mnuJARL_Web_OK_hamj, &screen.mnuJARL_Web_NO_conj,
+             &screen.cmdDisp_Hamlog, &screen.tool_contest, &screen.tool_hamlog, &screen.mnuDisp_dup,
+             &screen.tool_dup, &screen.mnuJARL, &screen.mnuJARL_Web_OK, &screen.mnuJARL_Web_NO,
+             &screen.mnuJARL_Web_OK_conj, &screen.mnuJARL_Web_OK_hamj, &screen.mnuJARL_Web_NO_conj,
              &screen.mnuJARL_Web_NO_hamj}) {
         EXPECT_TRUE(control->enabled) << control->name();
     }

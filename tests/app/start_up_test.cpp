@@ -38,6 +38,22 @@ TEST(StartUp, TraceLogIsNamedByTheTimeAndBeginsWithTheVersion) {
                                                "Public Sub Main()"));
 }
 
+TEST(StartUp, TraceLogOfAnEarlierStartInTheSameSecondStays) {
+    ProgramKit kit;
+    kit.clock.time = {2026, 12, 31, 23, 59, 59};
+    kit.put_text("C:\\veldrana\\Error_Log\\20261231_235959.txt", "エラー発生 ：　5\r\n");
+    kit.start();
+    EXPECT_EQ(kit.program->trace.path(), "C:\\veldrana\\Error_Log\\20270101_000000.txt");
+    EXPECT_EQ(kit.memory.bytes("C:\\veldrana\\Error_Log\\20261231_235959.txt"),
+              to_code_page("エラー発生 ：　5\r\n"));
+}
+
+TEST(StartUp, EventsOfTheScreenRunOnce) {
+    ProgramKit kit;
+    kit.start();
+    EXPECT_EQ(kit.person.times_let_through, 1);
+}
+
 TEST(StartUp, ProfileFilesThatAreThereAreCopiedIntoTheTraceLog) {
     ProgramKit kit;
     kit.put_text("C:\\veldrana\\Veldrana.ini", "[Veldrana.ini]\r\nCheck01=1\r\n");
@@ -64,6 +80,8 @@ TEST(StartUp, MainScreenWaitsForALog) {
     EXPECT_FALSE(screen.mnuDisp_dup.enabled);
     EXPECT_FALSE(screen.mnuJARL_Web_NO_hamj.enabled);
     EXPECT_EQ(screen.txtYYYY.text.get(), "2026");
+    EXPECT_FALSE(screen.mnuQSOBank.enabled);
+    EXPECT_EQ(kit.program->paths.qsl_dir, "C:\\veldrana\\\\qsl_dir\\");
     EXPECT_EQ(screen.MSFlexGrid1.cell(0, 1).text, "0");
 }
 

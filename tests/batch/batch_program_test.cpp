@@ -133,6 +133,7 @@ TEST_F(BatchProgram, UsageErrorsEndWith2) {
         {"--drive", "D=/no/such/folder", "convert", log.string()},
         {"--set", "Check15", "convert", log.string()},
         {"--set", "NoSuchControl=1", "convert", log.string()},
+        {"convert", ""},
         {"--set", "Check15=yes", "convert", log.string()},
         {"--set", "lblRmks1(0)=nothing of that name", "convert", log.string()},
     };
@@ -229,6 +230,62 @@ TEST_F(BatchProgram, LogWhoseNameFitsAWorkFileIsNotDeleted) {
     write_bytes(named, bytes);
     EXPECT_EQ(run({"convert", named.string()}).status, 0);
     EXPECT_EQ(read_bytes(named), bytes);
+}
+
+// It was kept from an earlier run, say, and chosen by mistake.
+TEST_F(BatchProgram, RefusedLogWhoseNameFitsAWorkFileIsNotDeleted) {
+    const fs::path named = log.parent_path() / "zlog_1.txt";
+    write_bytes(named, "no heading\r\n");
+    EXPECT_EQ(run({"convert", named.string()}).status, 1);
+    EXPECT_EQ(read_bytes(named), "no heading\r\n");
+}
+
+TEST_F(BatchProgram, LogIsNotDeletedUnderTheLetterOfAnotherDrive) {
+    const fs::path named = scratch.path() / "zlog_7.txt";
+    write_bytes(named, sample_txt_log);
+    fs::create_directory_symlink(scratch.path(), scratch.path() / "link");
+    const ProcessResult ended = run({"--drive", "D=" + (scratch.path() / "link").string(),
+                                     "convert", (scratch.path() / "link/zlog_7.txt").string()});
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_EQ(read_bytes(named), sample_txt_log);
+}
+
+TEST_F(BatchProgram, LogThatIsLinkedToTheIntermediateFileIsNotWritten) {
+    fs::create_hard_link(log, log.parent_path() / "zlog_1.txt");
+    const ProcessResult ended = run({"convert", log.string()});
+    EXPECT_EQ(ended.status, 3);
+    EXPECT_THAT(ended.messages, HasSubstr("エラー発生 ：　55\n"));
+    EXPECT_EQ(read_bytes(log), to_code_page(sample_all_log));
+}
+
+TEST_F(BatchProgram, LogWithoutAnExtensionKeepsItsBytes) {
+    const fs::path named = log.parent_path() / "xall";
+    write_bytes(named, sample_all_log);
+    const ProcessResult ended = run({"convert", named.string()});
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_EQ(read_bytes(named), sample_all_log);
+    EXPECT_TRUE(fs::exists(log.parent_path() / "xall_hjn.csv"));
+}
+
+TEST_F(BatchProgram, PipeInPlaceOfALogEndsInTheReport) {
+    const fs::path pipe = log.parent_path() / "pipe.all";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const ProcessResult ended = run({"convert", pipe.string()});
+    EXPECT_EQ(ended.status, 3);
+    EXPECT_THAT(ended.messages, HasSubstr("エラー発生 ：　75\n"));
+}
+
+TEST_F(BatchProgram, SettingThatTheFilesCannotHoldIsMarked) {
+    run({"--set", "txtRmks1=caf\u00e9", "convert", log.string()});
+    EXPECT_THAT(read_bytes(log.parent_path() / "x_hjn.csv"), HasSubstr("\"caf?\""));
+}
+
+// A shell loop converts several logs within a second.
+TEST_F(BatchProgram, EachStartHasATraceLogOfItsOwn) {
+    run({"convert", (log.parent_path() / "missing.all").string()});
+    run({"--set", "Check26=0", "convert", log.string()});
+    run({"--set", "Check26=0", "convert", log.string()});
+    EXPECT_THAT(trace_log(), HasSubstr("エラー発生"));
 }
 
 TEST_F(BatchProgram, TraceLogOfAnUneventfulRunGoesIfItNeedNotBeKept) {

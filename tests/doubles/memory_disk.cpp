@@ -165,6 +165,10 @@ void MemoryDisk::remove(std::string_view path) {
     files_.erase(key_of(path));
 }
 
+bool MemoryDisk::same_file(std::string_view one, std::string_view other) {
+    return file_exists(one) && key_of(one) == key_of(other);
+}
+
 std::vector<std::string> MemoryDisk::names(std::string_view pattern) {
     const std::string folder = folder_key(pattern);
     std::vector<std::string> names;
@@ -264,6 +268,10 @@ LocalTime FailingDisk::modified(std::string_view path) {
 void FailingDisk::remove(std::string_view path) {
     count_operation();
     disk_.remove(path);
+}
+
+bool FailingDisk::same_file(std::string_view one, std::string_view other) {
+    return disk_.same_file(one, other);
 }
 
 std::vector<std::string> FailingDisk::names(std::string_view pattern) {

@@ -33,6 +33,7 @@ class MemoryDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 
   private:
@@ -74,6 +75,7 @@ class FailingDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 
   private:
