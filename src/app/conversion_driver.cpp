@@ -70,7 +70,7 @@ void enable_results(Program& program) {
     screen.tool_dup.enabled = dup;
 }
 
-// The first character of a mark, a blank if there is none.
+// The text of a mark without blanks, one blank if there is none.
 std::string mark_of(const TextBox& box) {
     const std::string_view mark = trim(box.text.get());
     return mark.empty() ? " " : std::string(mark);
@@ -215,6 +215,8 @@ void make_dupe_list(Program& program) {
                               .in_Dir = program.log.in_Dir,
                               .drive_path = program.paths.drive_path,
                               .strPath = program.paths.strPath};
+    // What a run that failed has left would stand in this list.
+    remove_files(program, program.paths.strPath, {"zg_????.txt"});
     wpx_dupe_chk(stage, request);
     wpx_dupe_chk_2(stage, request);
     wpx_dupe_chk_4(stage, request);
@@ -235,6 +237,7 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
         const RunOptions& options = conversion.options;
         if (options.Option01 != 0 && options.Option07 == 0) {
             program.screen.Option07.index = OptionGroup::none;
+            conversion.options.Option07 = OptionGroup::none;
         }
         henkan_at_2_t(program, options);
         bak_sep3(program.stage(), program.log.in_Dir, options);

@@ -13,8 +13,8 @@ namespace veldrana {
 // The start button: one run, with the settings it ran on in the trace log.
 void cmdStart_Click(Program& program);
 
-// A run. False if it stopped before anything has changed: the text data of the log book is on, both
-// user texts are known and none is chosen.
+// A run. False if it stopped before it began, to ask for a choice: the text data of the log book is
+// on, both user texts are known and none is chosen.
 bool cmdStart_1(Program& program);
 
 // Shows how many records the chosen log has: the lines behind its heading.

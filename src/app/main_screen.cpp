@@ -28,7 +28,6 @@ MainScreen::MainScreen() {
         MSFlexGrid1.set_text(row, 2, "件");
     }
     lblRmks1[0].caption = "ｺﾝﾃｽﾄ";
-    lblRmks1[1].caption = "Rmks1";
     lblRmks2[0].caption = "Rmks2";
     ProgressBar1.visible = false;
 }

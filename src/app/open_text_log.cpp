@@ -39,6 +39,7 @@ void open_text_log(Program& program, const std::string& path) {
         return;
     }
     log.chosen = path;
+    program.disk.protect(path);
     log.in_name = path;
     program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);
@@ -86,6 +87,7 @@ void mnuOpen_con_n_Click(Program& program) {
             return;
         }
         program.log.chosen.clear();  // this file is there to be changed
+        program.disk.protect({});
         program.log.in_name = path;
         program.log.f_type.reset();
         program.run_mode = RunMode::replacement;

@@ -1,6 +1,8 @@
 #include "common/quoted_fields.h"
 
 #include <algorithm>
+#include <cstring>
+#include <type_traits>
 
 #include "common/text.h"
 
@@ -27,6 +29,66 @@ std::size_t field_end(std::string_view line, std::size_t from) noexcept {
     return line.size();
 }
 
+// Copies a text that is mostly a few bytes long; returns the place behind it.
+char* copy_short(std::string_view text, char* to) noexcept {
+    const char* from = text.data();
+    std::size_t size = text.size();
+    const auto copy = [&](auto constant) {
+        std::memcpy(to, from, constant);
+        from += constant;
+        to += constant;
+    };
+    using std::integral_constant;
+    for (; size >= 8; size -= 8) {
+        copy(integral_constant<std::size_t, 8>());
+    }
+    if ((size & 4U) != 0) {
+        copy(integral_constant<std::size_t, 4>());
+    }
+    if ((size & 2U) != 0) {
+        copy(integral_constant<std::size_t, 2>());
+    }
+    if ((size & 1U) != 0) {
+        copy(integral_constant<std::size_t, 1>());
+    }
+    return to;
+}
+
+// The next double quote at or behind `at`, `end` if there is none. Fields are a few bytes long: a
+// plain loop is quicker than a search made for long texts.
+const char* find_quote(const char* at, const char* end) noexcept {
+    while (at != end && *at != '"') {
+        ++at;
+    }
+    return at;
+}
+
+// The fields of a line that is just as the program writes it, if it has as many as there is room
+// for: nearly every line that a stage reads.
+bool split_written_line(std::string_view line, std::span<std::string_view> row) noexcept {
+    const char* at = line.data();
+    const char* const end = at + line.size();
+    if (at == end || *at != '"') {
+        return false;
+    }
+    ++at;
+    for (std::size_t i = 0; i + 1 < row.size(); ++i) {
+        const char* const close = find_quote(at, end);
+        // Behind the field stand its quote, a comma and the quote of the next one.
+        if (end - close < 3 || close[1] != ',' || close[2] != '"') {
+            return false;
+        }
+        row[i] = {at, static_cast<std::size_t>(close - at)};
+        at = close + 3;
+    }
+    const char* const close = find_quote(at, end);
+    if (end - close != 1) {
+        return false;
+    }
+    row.back() = {at, static_cast<std::size_t>(close - at)};
+    return true;
+}
+
 }  // namespace
 
 void QuotedLine::assign(std::span<const std::string_view> fields) {
@@ -39,13 +101,17 @@ void QuotedLine::assign(std::span<const std::string_view> fields) {
     char* to = line_.data();
     for (const std::string_view field : fields) {
         *to++ = '"';
-        to = std::copy(field.begin(), field.end(), to);
+        to = copy_short(field, to);
         *to++ = '"';
         *to++ = ',';
     }
     if (!fields.empty()) {
         line_.pop_back();
     }
+}
+
+void QuotedLine::assign(std::string_view field, std::string_view written_line) {
+    line_.assign("\"").append(field).append("\",").append(written_line);
 }
 
 std::string_view QuotedFields::value_of(std::string_view field) {
@@ -96,19 +162,28 @@ bool QuotedFieldReader::at_end() {
 }
 
 void RowReader::read() {
-    if (next_field_ == fields_.size()) {
-        fields_.split(read_line(source_));
-        next_field_ = 0;
-    }
-    if (next_field_ != 0 || fields_.size() != row_.size()) {
-        read_across_lines();
+    written_line_ = {};
+    if (next_field_ != fields_.size()) {
+        read_fields();
         return;
     }
-    std::copy(fields_.all().begin(), fields_.all().end(), row_.begin());
-    next_field_ = fields_.size();
+    const std::string_view line = read_line(source_);
+    if (split_written_line(line, row_)) {
+        written_line_ = line;
+        return;
+    }
+    fields_.split(line);
+    next_field_ = 0;
+    read_fields();
 }
 
-void RowReader::read_across_lines() {
+void RowReader::read_fields() {
+    if (next_field_ == 0 && fields_.size() == row_.size()) {
+        std::copy(fields_.all().begin(), fields_.all().end(), row_.begin());
+        next_field_ = fields_.size();
+        return;
+    }
+    // The row crosses lines, or shares its own: its columns are kept as texts.
     kept_.clear();
     for (std::string_view& column : row_) {
         if (next_field_ == fields_.size()) {

@@ -25,6 +25,8 @@ class QuotedLine {
   public:
     // Replaces what the line holds by these fields, which must not be views of it.
     void assign(std::span<const std::string_view> fields);
+    // The same for a field in front of a line that is written already.
+    void assign(std::string_view field, std::string_view written_line);
     std::string_view text() const noexcept { return line_; }
 
   private:
@@ -82,17 +84,22 @@ class RowReader {
     // Whether every field was read. Gives up the row.
     bool at_end();
 
+    // The line that the row came in, if it stands there just as it would be written: one row, every
+    // field in quotes. Else empty. A stage that changes nothing of a row writes this.
+    std::string_view written_line() const noexcept { return written_line_; }
+
     // By the columns' places from 0. Valid until the next call of read or at_end.
     std::string_view operator[](std::size_t column) const noexcept { return row_[column]; }
     std::span<const std::string_view> columns() const noexcept { return row_; }
 
   private:
-    void read_across_lines();
+    void read_fields();
 
     LineSource& source_;
     QuotedFields fields_;
     std::size_t next_field_ = 0;
     std::vector<std::string_view> row_;
+    std::string_view written_line_;
     std::deque<std::string> kept_;  // the columns of a row that crosses lines
 };
 

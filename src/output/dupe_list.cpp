@@ -63,9 +63,10 @@ std::string band_field(std::string_view frequency) {
     return std::string(left(band + "    ", band_field_width));
 }
 
-std::string_view shown_call(std::string& field, std::string_view whole_call) {
-    field = fixed_width(whole_call, call_field_width);
-    return field;
+// A text cut or filled to so many characters.
+std::string cell(std::string_view text, std::size_t width) {
+    return std::string(
+        left(std::string(text) + std::string(width, ' '), static_cast<Count>(width)));
 }
 
 void wpx_dupe_chk_6(const Stage& stage, const DupeRequest& request, const Band& band) {
@@ -81,11 +82,13 @@ void wpx_dupe_chk_6(const Stage& stage, const DupeRequest& request, const Band& 
         output.write_line("");
         std::string kept_letter;
         std::string text;
-        std::string field;
         int cells = 1;
         const auto start_group = [&] {
             kept_letter = row[letter];
-            text.assign("[").append(kept_letter).append("] ").append(shown_call(field, row[call]));
+            text.assign("[")
+                .append(kept_letter)
+                .append("] ")
+                .append(cell(row[call], call_field_width));
             cells = 1;
         };
         start_group();
@@ -98,10 +101,10 @@ void wpx_dupe_chk_6(const Stage& stage, const DupeRequest& request, const Band& 
                 start_group();
             } else if (cells == calls_in_a_line) {
                 output.write_line(text);
-                text.assign("    ").append(shown_call(field, row[call]));
+                text.assign("    ").append(cell(row[call], call_field_width));
                 cells = 1;
             } else {
-                text += shown_call(field, row[call]);
+                text += cell(row[call], call_field_width);
                 ++cells;
             }
         }
@@ -127,11 +130,17 @@ bool wpx_dupe_chk_5(const Stage& stage, const DupeRequest& request, const Band& 
 void copy_lines(const Stage& stage, const std::string& from, const std::string& to,
                 WriteMode mode) {
     TextInput input = stage.open_input(from);
-    TextOutput output(stage.disk, to, mode);
+    TextOutput output = stage.open_output(to, mode);
     for (std::string_view line; input.next_line(line);) {
         output.write_line(line);
     }
     output.close();
+}
+
+// The first section of the list.
+void wpx_dupe_chk_out(const Stage& stage, const std::string& section, const std::string& list) {
+    enter_procedure(stage.trace, "Private Sub wpx_dupe_chk_out()",
+                    [&] { copy_lines(stage, section, list, WriteMode::replace); });
 }
 
 }  // namespace
@@ -151,7 +160,7 @@ void wpx_dupe_chk(const Stage& stage, const DupeRequest& request) {
                 const std::string_view last = right(row[coded_line::call_base], 1);
                 const std::string text = band_field(row[coded_line::frequency])
                                              .append(last)
-                                             .append(fixed_width(whole_call, 10));
+                                             .append(cell(whole_call, 10));
                 line.assign(std::array{std::string_view(text), last, whole_call});
                 output.write_line(line.text());
             } while (!row.at_end());
@@ -166,8 +175,8 @@ void wpx_dupe_chk_2(const Stage& stage, const DupeRequest& request) {
         TextInput input = stage.open_input(std::string(request.drive_path).append("zlog_4.txt"));
         std::vector<std::unique_ptr<TextOutput>> outputs;
         for (const Band& band : bands) {
-            stage.trace.write_open_for_output(in_file(request, band));
             outputs.push_back(std::make_unique<TextOutput>(stage.disk, in_file(request, band)));
+            stage.trace.write_open_for_output(in_file(request, band));
         }
         QuotedFields fields;
         for (std::string_view line; input.next_line(line);) {
@@ -202,20 +211,23 @@ void wpx_dupe_chk_4(const Stage& stage, const DupeRequest& request) {
     });
 }
 
-bool wpx_dupe_chk_7(const Stage& stage, const DupeRequest& request) {
-    return enter_procedure(stage.trace, "Private Sub wpx_dupe_chk_7()", [&] {
+void wpx_dupe_chk_7(const Stage& stage, const DupeRequest& request) {
+    enter_procedure(stage.trace, "Private Sub wpx_dupe_chk_7()", [&] {
         const std::string list = dup_name(request.in_name);
         if (stage.disk.file_exists(list)) {
             stage.remove(list);
         }
         for (const Band& band : bands) {
             const std::string section = out_file(request, band);
-            if (stage.disk.file_exists(section)) {
-                const bool first = !stage.disk.file_exists(list);
-                copy_lines(stage, section, list, first ? WriteMode::replace : WriteMode::append);
+            if (!stage.disk.file_exists(section)) {
+                continue;
+            }
+            if (stage.disk.file_exists(list)) {
+                copy_lines(stage, section, list, WriteMode::append);
+            } else {
+                wpx_dupe_chk_out(stage, section, list);
             }
         }
-        return stage.disk.file_exists(list);
     });
 }
 

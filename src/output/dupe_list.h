@@ -19,7 +19,7 @@ struct DupeRequest {
 void wpx_dupe_chk(const Stage& stage, const DupeRequest& request);
 void wpx_dupe_chk_2(const Stage& stage, const DupeRequest& request);
 void wpx_dupe_chk_4(const Stage& stage, const DupeRequest& request);
-// Says whether there is a list: a log with no contact on a listed band has none.
-bool wpx_dupe_chk_7(const Stage& stage, const DupeRequest& request);
+// A log with no contact on a listed band has no list.
+void wpx_dupe_chk_7(const Stage& stage, const DupeRequest& request);
 
 }  // namespace veldrana

@@ -59,7 +59,18 @@ void make_jarl_key(std::string& key, std::string_view call_base) {
     key += fixed_width(call_base, 6);
 }
 
-void KeyedLine::assign(std::string_view key, std::span<const std::string_view> row) {
+std::string_view behind_key(std::string_view written_line) noexcept {
+    const std::size_t key_end = written_line.find("\",");
+    return key_end == std::string_view::npos ? std::string_view{}
+                                             : written_line.substr(key_end + 2);
+}
+
+void KeyedLine::assign(std::string_view key, std::span<const std::string_view> row,
+                       std::string_view written) {
+    if (!written.empty()) {
+        line_.assign(key, written);
+        return;
+    }
     columns_.assign(1, key);
     columns_.insert(columns_.end(), row.begin(), row.end());
     line_.assign(columns_);

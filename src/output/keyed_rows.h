@@ -30,10 +30,15 @@ void make_contest_key(std::string& key, std::span<const std::string_view> row,
 // third place first, area 0 behind all others. A call of two characters has one character less.
 void make_jarl_key(std::string& key, std::string_view call_base);
 
+// What stands behind the key of a keyed row as it was written; empty for an empty line.
+std::string_view behind_key(std::string_view written_line) noexcept;
+
 // Puts a key and the columns of a row together.
 class KeyedLine {
   public:
-    void assign(std::string_view key, std::span<const std::string_view> row);
+    // `written` is the row as it stood in its file, empty if it has to be written anew.
+    void assign(std::string_view key, std::span<const std::string_view> row,
+                std::string_view written = {});
     std::string_view text() const noexcept { return line_.text(); }
 
   private:

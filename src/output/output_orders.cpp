@@ -29,13 +29,17 @@ class HamlogFileWriter {
         : side_list_(stage.open_output(request.scratch("new_qsl_hamlog.csv"))),
           output_(stage.open_output(request.names.out_name_hamj0)) {}
 
-    void write(std::span<const std::string_view> row) {
+    // `written` is the row as it stood in its file, empty if it has to be written anew.
+    void write(std::span<const std::string_view> row, std::string_view written) {
         line_.assign(std::array{row[hamlog_row::call_base], row[hamlog_row::portable],
                                 row[hamlog_row::date], row[hamlog_row::time],
                                 left(row[hamlog_row::qsl], 1)});
         side_list_.write_line(line_.text());
-        line_.assign(row);
-        output_.write_line(line_.text());
+        if (written.empty()) {
+            line_.assign(row);
+            written = line_.text();
+        }
+        output_.write_line(written);
     }
 
     void close() {
@@ -56,7 +60,7 @@ void copy_in_log_order(const Stage& stage, const OutputRequest& request) {
     RowReader row(input, hamlog_row::count);
     do {
         row.read();
-        writer.write(row.columns());
+        writer.write(row.columns(), row.written_line());
     } while (!row.at_end());
     writer.close();
 }
@@ -81,7 +85,7 @@ void sort_with_jarl_key(const Stage& stage, const OutputRequest& request,
         do {
             row.read();
             make_jarl_key(key, row[0]);
-            line.assign(key, row.columns());
+            line.assign(key, row.columns(), row.written_line());
             output.write_line(line.text());
         } while (!row.at_end());
         output.close();
@@ -125,7 +129,7 @@ void jarl_sort_h(const Stage& stage, const OutputRequest& request, std::string_v
             RowReader row(input, hamlog_row::count + 1);
             do {
                 row.read();
-                writer.write(row.columns().subspan(1));
+                writer.write(row.columns().subspan(1), behind_key(row.written_line()));
             } while (!row.at_end());
             writer.close();
         }
@@ -151,7 +155,7 @@ void jarl_sort_contest(const Stage& stage, const OutputRequest& request, std::st
                 row.read();
                 const auto columns = row.columns().subspan(1);
                 make_jarl_key(key, columns[contest_row::call_base]);
-                line.assign(key, columns);
+                line.assign(key, columns, behind_key(row.written_line()));
                 output.write_line(line.text());
             } while (!row.at_end());
             output.close();

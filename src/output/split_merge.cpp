@@ -131,12 +131,14 @@ void write_keyed(const Stage& stage, const OutputRequest& request, std::string_v
     std::array<std::string_view, contest_row::count> columns;
     do {
         row.read();
-        std::copy(row.columns().begin(), row.columns().end(), columns.begin());
-        if (gl != SingleGl::kept) {
+        make_contest_key(key, row.columns(), call_width, request.options);
+        if (gl == SingleGl::kept) {
+            line.assign(key, row.columns(), row.written_line());
+        } else {
+            std::copy(row.columns().begin(), row.columns().end(), columns.begin());
             columns[contest_row::gl] = gl == SingleGl::sharp ? "#" : "";
+            line.assign(key, columns);
         }
-        make_contest_key(key, columns, call_width, request.options);
-        line.assign(key, columns);
         output.write_line(line.text());
         stage.ProgressBar1.step();
     } while (!row.at_end());

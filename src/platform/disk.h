@@ -67,6 +67,12 @@ class Disk {
     // When the file was last written.
     virtual LocalTime modified(std::string_view path) = 0;
     virtual void remove(std::string_view path) = 0;
+    // Puts a file in the place of another, which goes; in one step where the host can.
+    virtual void replace(std::string_view from, std::string_view to) = 0;
+
+    // From now on this file, by whatever path it is reached, is not written, replaced or removed
+    // (failure 55). One file is protected at a time; an empty path protects none.
+    virtual void protect(std::string_view path) = 0;
 
     // Whether two paths lead to one file, by whatever names; false if one is missing.
     virtual bool same_file(std::string_view one, std::string_view other) = 0;

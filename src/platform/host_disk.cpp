@@ -411,6 +411,7 @@ std::unique_ptr<ByteSink> HostDisk::open_for_writing(std::string_view path, Writ
     if (is_folder(file) || folder_exists(path)) {
         throw RunTimeError(Failure::path_or_file_access);
     }
+    require_unprotected(file);
     // The folder that stands for a root is made when it is first needed.
     if (const std::optional<HostPath> substitute = substitute_root(*place_of(path))) {
         std::error_code error;
@@ -457,8 +458,35 @@ void HostDisk::remove(std::string_view path) {
     if (is_folder(found)) {
         throw RunTimeError(Failure::path_or_file_access);
     }
+    require_unprotected(found);
     std::error_code error;
     fs::remove(found, error);
+    if (error) {
+        fail(error.value());
+    }
+}
+
+void HostDisk::require_unprotected(const HostPath& path) const {
+    if (protected_.empty()) {
+        return;
+    }
+    const std::optional<HostPath> kept = find(protected_);
+    if (kept && !identity(*kept).empty() && identity(*kept) == identity(path)) {
+        throw RunTimeError(Failure::already_open);
+    }
+}
+
+void HostDisk::replace(std::string_view from, std::string_view to) {
+    const HostPath source = require(from);
+    const HostPath place = target(to);
+    const std::string id = identity(place);
+    if (open_files_->written.contains(id) || open_files_->read.contains(id)) {
+        throw RunTimeError(Failure::already_open);
+    }
+    require_unprotected(source);
+    require_unprotected(place);
+    std::error_code error;
+    fs::rename(source, place, error);
     if (error) {
         fail(error.value());
     }

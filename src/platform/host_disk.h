@@ -38,6 +38,8 @@ class HostDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    void replace(std::string_view from, std::string_view to) override;
+    void protect(std::string_view path) override { protected_ = path; }
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 
@@ -60,8 +62,12 @@ class HostDisk : public Disk {
     // What find gives, or the failure that tells why there is nothing.
     HostPath require(std::string_view path) const;
 
+    // Failure 55 if the host path leads to the protected file.
+    void require_unprotected(const HostPath& path) const;
+
     std::map<char, HostPath> drives_;
     HostPath program_folder_;
+    std::string protected_;
 
     // The files that are open, by what the host tells them apart with; shared with them, so that a
     // file may outlive the disk.

@@ -51,7 +51,7 @@ std::string take_path(std::string_view& text) {
 struct Entry {
     std::uint64_t head;
     const char* line;
-    std::uint32_t size;
+    std::size_t size;
 };
 
 std::uint64_t head_of(std::string_view key) {
@@ -89,7 +89,7 @@ std::vector<Entry> entries_of(std::string_view bytes, const SortCommand& command
         const std::size_t before = std::min(command.start - 1, line.size());
         entries.push_back({.head = head_of(line.substr(before, command.length)),
                            .line = line.data(),
-                           .size = static_cast<std::uint32_t>(line.size())});
+                           .size = line.size()});
         from = end + 1;
     }
     return entries;

@@ -9,9 +9,9 @@ TextInput Stage::open_input(std::string_view path) const {
     return {disk, path};
 }
 
-TextOutput Stage::open_output(std::string_view path) const {
+TextOutput Stage::open_output(std::string_view path, WriteMode mode) const {
     trace.write_open_for_output(path);
-    return {disk, path};
+    return {disk, path, mode};
 }
 
 void Stage::tell(std::string_view caption, Colour colour) const {

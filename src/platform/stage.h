@@ -24,7 +24,7 @@ struct Stage {
     ProgressBar& ProgressBar1;
 
     TextInput open_input(std::string_view path) const;
-    TextOutput open_output(std::string_view path) const;
+    TextOutput open_output(std::string_view path, WriteMode mode = WriteMode::replace) const;
 
     // Puts a caption into the status label.
     void tell(std::string_view caption, Colour colour) const;

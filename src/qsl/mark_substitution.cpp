@@ -137,6 +137,10 @@ void rewrite_letter(const Stage& stage, std::string_view file, std::string_view 
         std::array<std::string_view, hamlog_row::count> columns;
         do {
             row.read();
+            if (!is_no_qsl(row[hamlog_row::qsl]) && !row.written_line().empty()) {
+                output.write_line(row.written_line());
+                continue;
+            }
             std::copy(row.columns().begin(), row.columns().end(), columns.begin());
             if (is_no_qsl(columns[hamlog_row::qsl])) {
                 qsl.assign(letter).append(mid(columns[hamlog_row::qsl], 2, 1)).append(" ");
@@ -147,7 +151,8 @@ void rewrite_letter(const Stage& stage, std::string_view file, std::string_view 
         } while (!row.at_end());
         output.close();
     }
-    copy_file(stage.disk, copy, file);
+    // The new file takes the old one's place, and its own name is free again.
+    stage.disk.replace(copy, file);
 }
 
 }  // namespace
@@ -197,8 +202,6 @@ void No_QSL_moji_ReWrite(const Stage& stage, const MarkRequest& request) {
     stage.trace.write("Private Sub No_QSL_moji_ReWrite");
     rewrite_letter(stage, request.hamlog_file, request.No_QSL_moji);
     rewrite_letter(stage, request.contest_file, request.No_QSL_moji);
-    stage.remove(std::string(request.hamlog_file) + "_1");
-    stage.remove(std::string(request.contest_file) + "_1");
 }
 
 }  // namespace veldrana

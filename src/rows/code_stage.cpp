@@ -21,11 +21,12 @@ void append_two_digits(std::string& date, std::string_view text) {
     date += right(text, 2);
 }
 
-// Goes through the contacts; `find` gives the code and QTH of a number, `number_of` the form in
-// which the number is passed on.
-template <class Find, class NumberOf>
+// A contact's number as it is passed on.
+enum class Number { as_received, trimmed };
+
+// Goes through the contacts; the source, if there is one, gives the code and QTH of a number.
 void code_contacts(const Stage& stage, std::string_view in_Dir, const RunOptions& options,
-                   Find find, NumberOf number_of) {
+                   CodeSource* source, Number number_form) {
     TextInput input = stage.open_input(std::string(in_Dir).append(log_line_file));
     TextOutput output = stage.open_output(std::string(in_Dir).append(coded_line_file));
     RowReader row(input, log_line::count);
@@ -41,7 +42,7 @@ void code_contacts(const Stage& stage, std::string_view in_Dir, const RunOptions
         const std::string_view frequency = row[log_line::frequency];
         const bool use_frequency = options.Check01 && !frequency.empty();
         const CallParts parts = split_portable(call);
-        const CodeAndPlace found = find(number);
+        const CodeAndPlace found = source != nullptr ? source->find(number) : CodeAndPlace{};
 
         std::array<std::string_view, coded_line::count> fields;
         fields[coded_line::date] = date;
@@ -55,7 +56,8 @@ void code_contacts(const Stage& stage, std::string_view in_Dir, const RunOptions
         fields[coded_line::mode] = row[log_line::mode];
         fields[coded_line::code] = found.code;
         fields[coded_line::qth] = found.qth;
-        fields[coded_line::number_received] = number_of(number);
+        fields[coded_line::number_received] =
+            number_form == Number::trimmed ? trim(number) : number;
         fields[coded_line::op] = row[log_line::op];
         fields[coded_line::memo] = row[log_line::memo];
         fields[coded_line::call_as_logged] = call;
@@ -68,11 +70,8 @@ void code_contacts(const Stage& stage, std::string_view in_Dir, const RunOptions
 }  // namespace
 
 void bak_sep3(const Stage& stage, std::string_view in_Dir, const RunOptions& options) {
-    enter_procedure(stage.trace, "Private Sub bak_sep3()", [&] {
-        code_contacts(
-            stage, in_Dir, options, [](std::string_view /*number*/) { return CodeAndPlace{}; },
-            [](std::string_view number) { return trim(number); });
-    });
+    enter_procedure(stage.trace, "Private Sub bak_sep3()",
+                    [&] { code_contacts(stage, in_Dir, options, nullptr, Number::trimmed); });
 }
 
 }  // namespace veldrana

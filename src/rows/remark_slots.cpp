@@ -30,10 +30,6 @@ RemarkLayout sort_slots(RemarkSlots& slots, const RemarkLengths& lengths, Remark
         layout.cfg += captions[i] + ",";
         layout.cfg_len += (captions[i].empty() ? "0" : set_Rmk_Len(lengths, captions[i])) + ",";
     }
-    if (layout.cfg == std::string(remark_slot_count, ',')) {
-        // One comma more than the slots leave behind; kept.
-        layout.cfg = ",,,,,,,";
-    }
     return layout;
 }
 

@@ -1,8 +1,5 @@
 #include "rows/remarks.h"
 
-#include <algorithm>
-#include <numeric>
-
 #include "common/text.h"
 
 namespace veldrana {

@@ -1,5 +1,4 @@
-// Owns ContestRow and HamlogRow, the two row formats that all stages behind the row builder share,
-// and the keyed rows that the sorts work on.
+// Owns ContestRow and HamlogRow, the two row formats that all stages behind the row builder share.
 #pragma once
 
 #include <cstddef>

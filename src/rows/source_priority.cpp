@@ -5,9 +5,6 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <vector>
-
-#include "common/text.h"
 
 namespace veldrana {
 namespace {
@@ -27,12 +24,28 @@ struct SecondPlace {
     std::string_view tested;
 };
 
+// Blank places for those that a list does not have.
+std::array<std::string_view, places_looked_at> first_places(std::string_view list) {
+    std::array<std::string_view, places_looked_at> places;
+    for (std::string_view& place : places) {
+        const std::size_t end = std::min(list.find(','), list.size());
+        place = list.substr(0, end);
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+    return places;
+}
+
 std::string_view choose(const std::string& list, std::span<const Offer> offers,
                         std::string_view before, SecondPlace odd = {}) {
-    const std::vector<std::string_view> places = split(list, ",");
+    const bool nothing_offered = std::all_of(
+        offers.begin(), offers.end(), [](const Offer& offer) { return offer.value.empty(); });
+    if (nothing_offered) {
+        return before;
+    }
+    const std::array<std::string_view, places_looked_at> places = first_places(list);
     std::string_view chosen = before;
     // From the lowest rank up, so that a higher one overwrites.
-    for (std::size_t place = std::min(places.size(), places_looked_at); place > 0; --place) {
+    for (std::size_t place = places.size(); place > 0; --place) {
         for (const Offer& offer : offers) {
             if (offer.source != places[place - 1] || !offer.allowed) {
                 continue;

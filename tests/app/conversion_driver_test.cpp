@@ -253,12 +253,14 @@ TEST_F(ConversionDriver, ShortLineWithMemoInUseEndsInTheReport) {
 }
 
 TEST_F(ConversionDriver, FailureOutsideTheReaderNamesItsProcedure) {
+    kit.memory.protect({});  // another program may delete the log
     kit.memory.remove("C:\\log\\x.all");
     screen.cmdStart.press();
     EXPECT_THAT(kit.trace_lines(), Contains("エラー発生  Private Sub count_in_name() ：　53"));
 }
 
 TEST_F(ConversionDriver, NothingHappensAfterTheProgramHasEnded) {
+    kit.memory.protect({});  // another program may delete the log
     kit.memory.remove("C:\\log\\x.all");
     screen.cmdStart.press();
     kit.person.boxes.clear();
@@ -280,6 +282,7 @@ TEST_F(ConversionDriver, CountersOfTheRunAreShown) {
 }
 
 TEST_F(ConversionDriver, RowThatTellsItsOwnCallLosesItInTheFinalFile) {
+    screen.lblRmks1[1].caption = "Rmks1";
     screen.txtRmks1.text = "QSO JA1ZZA!";
     screen.cmdStart.press();
     EXPECT_THAT(kit.memory.bytes("C:\\log\\x_hjn.csv"), HasSubstr("\"QSO !\""));
@@ -300,6 +303,9 @@ TEST_F(ConversionDriver, NoQslRuleLosesItsSelectionWithoutALogBook) {
     screen.Option01.index = OptionGroup::none;
     screen.cmdStart.press();
     EXPECT_EQ(screen.Option07.index.get(), OptionGroup::none);
+    screen.cmdStart.press();
+    EXPECT_TRUE(program.run_finished);
+    EXPECT_FALSE(program.ended());
 }
 
 TEST_F(ConversionDriver, EmptyMarksBecomeOneBlank) {

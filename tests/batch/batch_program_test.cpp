@@ -258,6 +258,19 @@ TEST_F(BatchProgram, LogThatIsLinkedToTheIntermediateFileIsNotWritten) {
     EXPECT_EQ(read_bytes(log), to_code_page(sample_all_log));
 }
 
+// By the time the stage behind the reader writes its file, nobody has the log open any more.
+TEST_F(BatchProgram, LogThatBearsTheNameOfALaterFileIsNotWritten) {
+    for (const fs::path& named : {log.parent_path() / "zlog_2.txt", scratch.path() / "zlog_4.txt",
+                                  scratch.path() / "zlog_3.txt", home / "zg_i7__.txt"}) {
+        write_bytes(named, sample_txt_log);
+        const ProcessResult ended = run({"--set", "Check06=1", "convert", named.string()});
+        EXPECT_EQ(ended.status, 3) << named;
+        EXPECT_THAT(ended.messages, HasSubstr("エラー発生 ：　55\n")) << named;
+        EXPECT_EQ(read_bytes(named), sample_txt_log) << named;
+        fs::remove(named);
+    }
+}
+
 TEST_F(BatchProgram, LogWithoutAnExtensionKeepsItsBytes) {
     const fs::path named = log.parent_path() / "xall";
     write_bytes(named, sample_all_log);
@@ -276,7 +289,7 @@ TEST_F(BatchProgram, PipeInPlaceOfALogEndsInTheReport) {
 }
 
 TEST_F(BatchProgram, SettingThatTheFilesCannotHoldIsMarked) {
-    run({"--set", "txtRmks1=caf\u00e9", "convert", log.string()});
+    run({"--set", "txtRmks2=caf\u00e9", "convert", log.string()});
     EXPECT_THAT(read_bytes(log.parent_path() / "x_hjn.csv"), HasSubstr("\"caf?\""));
 }
 

@@ -141,6 +141,7 @@ std::unique_ptr<ByteSource> MemoryDisk::open_for_reading(std::string_view path) 
 
 std::unique_ptr<ByteSink> MemoryDisk::open_for_writing(std::string_view path, WriteMode mode) {
     require_place(path);
+    require_unprotected(path);
     std::shared_ptr<File>& file = files_[key_of(path)];
     if (file == nullptr) {
         file = std::make_shared<File>(File{std::string(path), {}, {}});
@@ -162,7 +163,29 @@ LocalTime MemoryDisk::modified(std::string_view path) {
 
 void MemoryDisk::remove(std::string_view path) {
     require(path);
+    require_unprotected(path);
     files_.erase(key_of(path));
+}
+
+void MemoryDisk::replace(std::string_view from, std::string_view to) {
+    require(from);
+    require_place(to);
+    require_unprotected(from);
+    require_unprotected(to);
+    std::shared_ptr<File> file = files_[key_of(from)];
+    files_.erase(key_of(from));
+    file->path = to;
+    files_[key_of(to)] = std::move(file);
+}
+
+void MemoryDisk::protect(std::string_view path) {
+    protected_ = key_of(path);
+}
+
+void MemoryDisk::require_unprotected(std::string_view path) const {
+    if (!protected_.empty() && key_of(path) == protected_) {
+        throw RunTimeError(Failure::already_open);
+    }
 }
 
 bool MemoryDisk::same_file(std::string_view one, std::string_view other) {
@@ -268,6 +291,15 @@ LocalTime FailingDisk::modified(std::string_view path) {
 void FailingDisk::remove(std::string_view path) {
     count_operation();
     disk_.remove(path);
+}
+
+void FailingDisk::replace(std::string_view from, std::string_view to) {
+    count_operation();
+    disk_.replace(from, to);
+}
+
+void FailingDisk::protect(std::string_view path) {
+    disk_.protect(path);
 }
 
 bool FailingDisk::same_file(std::string_view one, std::string_view other) {

@@ -33,6 +33,8 @@ class MemoryDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    void replace(std::string_view from, std::string_view to) override;
+    void protect(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 
@@ -47,12 +49,14 @@ class MemoryDisk : public Disk {
     class Source;
     class Sink;
 
+    void require_unprotected(std::string_view path) const;
     const File& require(std::string_view path) const;
     // Fails where no file of that name can be written.
     void require_place(std::string_view path) const;
 
     std::map<std::string, std::shared_ptr<File>> files_;  // by their keys
     std::set<std::string> folders_;
+    std::string protected_;
 };
 
 // Passes everything on to another disk, but for one operation.
@@ -75,6 +79,8 @@ class FailingDisk : public Disk {
     std::uint64_t size(std::string_view path) override;
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
+    void replace(std::string_view from, std::string_view to) override;
+    void protect(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
 

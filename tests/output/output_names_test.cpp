@@ -31,5 +31,11 @@ TEST(OutputNames, DupeListIsNamedFromTheFirstPoint) {
     EXPECT_EQ(dup_name("C:\\2025.04\\x.all"), "C:\\2025.dup");
 }
 
+TEST(OutputNames, PointInAFolderPutsTheDupeListApartFromTheOtherFiles) {
+    const std::string in_name = "C:\\2025.04\\x.all";
+    EXPECT_EQ(dup_name(in_name), "C:\\2025.dup");
+    EXPECT_EQ(make_output_names(in_name).out_name_conj_new, "C:\\2025.04\\x_cjn.csv");
+}
+
 }  // namespace
 }  // namespace veldrana

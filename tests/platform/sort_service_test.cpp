@@ -17,7 +17,6 @@ namespace veldrana {
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 using Lines = std::vector<std::string>;
 
@@ -223,6 +222,9 @@ TEST_F(StableSortTest, ComparesBytesUnsigned) {
     const Lines lines{"\xFC", "\x80", "\x7E", "\xB1", " "};
     EXPECT_EQ(sorted_bytes("/k(1:1)", file_of(lines)),
               file_of({" ", "\x7E", "\x80", "\xB1", "\xFC"}));
+    // A high byte leaves the bytes in front of it what they are.
+    EXPECT_EQ(sorted_bytes("/k(1:2)", file_of({"bx", "a\xB1", "ax"})),
+              file_of({"ax", "a\xB1", "bx"}));
     // The same behind the first eight bytes of a long key.
     const Lines long_lines{"12345678\xB1", "12345678z"};
     EXPECT_EQ(sorted_bytes("/k(1:9)", file_of(long_lines)), file_of({"12345678z", "12345678\xB1"}));

@@ -35,7 +35,6 @@ DEFAULTS = {
     "txtYYYY": None,  # the present year: a case whose result holds it has to set it
     **{slot: "" for slot in REMARK_SLOTS},
     "lblRmks1(0)": "ｺﾝﾃｽﾄ",
-    "lblRmks1(1)": "Rmks1",
     "lblRmks2(0)": "Rmks2",
 }
 
