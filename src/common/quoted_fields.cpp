@@ -114,6 +114,24 @@ void QuotedLine::assign(std::string_view field, std::string_view written_line) {
     line_.assign("\"").append(field).append("\",").append(written_line);
 }
 
+QuotedLine& QuotedLine::clear() noexcept {
+    line_.clear();
+    return *this;
+}
+
+QuotedLine& QuotedLine::add(std::string_view field) {
+    line_.append(line_.empty() ? "\"" : ",\"").append(field).append("\"");
+    return *this;
+}
+
+QuotedLine& QuotedLine::add_written(std::string_view fields) {
+    if (!line_.empty()) {
+        line_ += ',';
+    }
+    line_.append(fields);
+    return *this;
+}
+
 std::string_view QuotedFields::value_of(std::string_view field) {
     const std::string_view behind_blanks = trim_left(field);
     if (behind_blanks.empty() || behind_blanks.front() != '"') {

@@ -27,6 +27,12 @@ class QuotedLine {
     void assign(std::span<const std::string_view> fields);
     // The same for a field in front of a line that is written already.
     void assign(std::string_view field, std::string_view written_line);
+
+    // Building a line piece by piece, from the empty line that clear leaves: a field, or several
+    // with their quotes and commas just as they stood in another line.
+    QuotedLine& clear() noexcept;
+    QuotedLine& add(std::string_view field);
+    QuotedLine& add_written(std::string_view fields);
     std::string_view text() const noexcept { return line_; }
 
   private:
@@ -87,6 +93,13 @@ class RowReader {
     // The line that the row came in, if it stands there just as it would be written: one row, every
     // field in quotes. Else empty. A stage that changes nothing of a row writes this.
     std::string_view written_line() const noexcept { return written_line_; }
+
+    // The columns from first to last as they would be written. Only for a row with a written line.
+    std::string_view written_columns(std::size_t first, std::size_t last) const noexcept {
+        const char* const begin = row_[first].data() - 1;
+        const char* const end = row_[last].data() + row_[last].size() + 1;
+        return {begin, static_cast<std::size_t>(end - begin)};
+    }
 
     // By the columns' places from 0. Valid until the next call of read or at_end.
     std::string_view operator[](std::size_t column) const noexcept { return row_[column]; }

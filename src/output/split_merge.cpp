@@ -72,30 +72,30 @@ class ContestFileWriter {
     ContestFileWriter(const Stage& stage, const OutputRequest& request)
         : output_(stage.open_output(request.names.out_name_conj0)) {}
 
-    // The columns of a ContestRow; date and time as they stand in the result.
-    void write(std::span<const std::string_view> row, std::string_view gl) {
-        write_date(date_, row[contest_row::date]);
-        write_time(time_, row[contest_row::time]);
-        qsl_.assign(row[contest_row::transfer_mark]).append("  ");
-        const std::array<std::string_view, hamlog_row::count> hamlog{
-            row[contest_row::call_base],
-            row[contest_row::portable],
-            date_,
-            time_,
-            row[contest_row::report_sent],
-            row[contest_row::report_received],
-            row[contest_row::frequency],
-            row[contest_row::mode],
-            row[contest_row::code],
-            gl,
-            qsl_,
-            row[contest_row::name],
-            row[contest_row::qth],
-            row[contest_row::rmks1],
-            row[contest_row::rmks2],
-            row[contest_row::call_1],
-            row[contest_row::call_2]};
-        line_.assign(hamlog);
+    // A keyed row; date and time get the form that they have in the result. Columns that stay side
+    // by side go over in one piece where they stand as they are written.
+    void write(const RowReader& keyed, std::string_view gl) {
+        const auto add = [&](std::size_t first, std::size_t last) {
+            if (!keyed.written_line().empty()) {
+                line_.add_written(keyed.written_columns(first + 1, last + 1));
+                return;
+            }
+            for (std::size_t column = first; column <= last; ++column) {
+                line_.add(keyed[column + 1]);
+            }
+        };
+        write_date(date_, keyed[contest_row::date + 1]);
+        write_time(time_, keyed[contest_row::time + 1]);
+        qsl_.assign(keyed[contest_row::transfer_mark + 1]).append("  ");
+        line_.clear();
+        add(contest_row::call_base, contest_row::portable);
+        line_.add(date_).add(time_);
+        add(contest_row::report_sent, contest_row::report_received);
+        add(contest_row::frequency, contest_row::mode);
+        add(contest_row::code, contest_row::code);
+        line_.add(gl).add(qsl_);
+        add(contest_row::name, contest_row::name);
+        add(contest_row::qth, contest_row::call_2);
         output_.write_line(line_.text());
     }
 
@@ -168,7 +168,7 @@ void temp_marge(const Stage& stage, const OutputRequest& request) {
                     continue;
                 }
                 const bool sharp = singles && request.options.Check21;
-                writer.write(row, sharp ? std::string_view("#") : row[contest_row::gl]);
+                writer.write(keyed, sharp ? std::string_view("#") : row[contest_row::gl]);
                 if (singles) {
                     side_line.assign(std::array{
                         row[contest_row::call_base], row[contest_row::portable], writer.date(),
@@ -240,7 +240,7 @@ void sort_wakenai_c_1(const Stage& stage, const OutputRequest& request) {
                             const auto columns = behind_key(row);
                             stage.ProgressBar1.step();
                             if (columns[contest_row::call_base] != sentinel_call) {
-                                writer.write(columns, columns[contest_row::gl]);
+                                writer.write(row, columns[contest_row::gl]);
                             }
                         } while (!row.at_end());
                         writer.close();

@@ -6,6 +6,11 @@
 namespace veldrana {
 
 void write_date(std::string& text, std::string_view date) {
+    if (date.size() == 6 && is_ascii(date)) {
+        text.assign(date.substr(0, 2)).append("/").append(date.substr(2, 2)).append("/");
+        text.append(date.substr(4));
+        return;
+    }
     const DatePieces pieces = split_date(date);
     text.assign(pieces.year).append("/").append(pieces.month).append("/").append(pieces.day);
 }
