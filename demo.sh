@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and shows the program's work on a sample log.
+# Installs what is missing, builds, and shows the program's main job on a sample log: a contest log
+# becomes the two files that the log book imports.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -14,14 +15,37 @@ mkdir -p "$demo/veldrana"
 cp -r samples/logs "$demo/logs"
 log="$demo/logs/allja_sample.all"
 
+# The first rows of a result file as a table.
+show() {
+    iconv -f CP932 -t UTF-8 "$1" | sed -n '1,8p' | python3 -c '
+import csv, sys, unicodedata
+
+heads = ["Call", "Date", "Time", "His", "My", "Freq", "Mode", "Code", "G/L", "QSL", "Name", "QTH",
+         "Rmks1", "Rmks2", "DX"]
+
+def width(text):
+    return sum(2 if unicodedata.east_asian_width(c) in "WF" else 1 for c in text)
+
+rows = [heads, *csv.reader(sys.stdin)]
+widths = [max(width(row[i]) for row in rows) for i in range(len(heads))]
+for row in rows:
+    print("  " + "  ".join(cell + " " * (w - width(cell)) for cell, w in zip(row, widths)).rstrip())
+'
+}
+
 echo
 echo "The log, $(($(wc -l <"$log") - 1)) contacts as the contest logger wrote them:"
-iconv -f CP932 -t UTF-8 "$log" | sed -n '1,6p'
+iconv -f CP932 -t UTF-8 "$log" | sed -n '2,5p'
 
-build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" --keep-work \
-    --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" convert "$log" >"$demo/counters.txt"
-
-intermediate="$demo/logs/zlog_1.txt"
 echo
-echo "The same contacts as the stages of a run pass them on, $(wc -l <"$intermediate") lines in $intermediate:"
-iconv -f CP932 -t UTF-8 "$intermediate" | sed -n '1,5p'
+echo "The counters of the run:"
+build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" \
+    --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" --set "Check1=1" --set "Check10=1" \
+    --set "Check06=1" convert "$log"
+
+echo
+echo "${log%.all}_hjn.csv, in the order of the log:"
+show "${log%.all}_hjn.csv"
+echo
+echo "${log%.all}_cjn.csv, sorted for the cards, stations worked once first:"
+show "${log%.all}_cjn.csv"

@@ -89,6 +89,8 @@ RunOptions take_options(MainScreen& screen) {
     options.Option08 = screen.Option08.index;
     options.Option09 = screen.Option09.index;
     options.Option1 = screen.Option1.index;
+    options.Option2 = screen.Option2.index;
+    options.Option22 = screen.Option22.index;
     options.Option4 = screen.Option4.index;
     options.Check01 = screen.Check01.value;
     options.Check03 = screen.Check03.value;
@@ -118,6 +120,13 @@ RunOptions take_options(MainScreen& screen) {
     options.Check2 = screen.Check2.value;
     options.Check3 = screen.Check3.value;
     options.Check21 = screen.Check21.value;
+    options.Check23 = screen.Check23.value;
+    options.Check26 = screen.Check26.value;
+    options.Check27 = screen.Check27.value;
+    options.Check28 = screen.Check28.value;
+    options.Check31 = screen.Check31.value;
+    options.Check32 = screen.Check32.value;
+    options.Check33 = screen.Check33.value;
     options.txtQSL_Q = mark_of(screen.txtQSL_Q);
     options.txtQSL_S = mark_of(screen.txtQSL_S);
     options.txtOp_name = trim(screen.txtOp_name.text.get());
@@ -234,6 +243,8 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
         count_in_name(program);
         Conversion conversion;
         conversion.options = take_options(program.screen);
+        conversion.options.Start_date = program.period.Start_date;
+        conversion.options.End_date = program.period.End_date;
         const RunOptions& options = conversion.options;
         if (options.Option01 != 0 && options.Option07 == 0) {
             program.screen.Option07.index = OptionGroup::none;
@@ -408,6 +419,7 @@ bool cmdStart_1(Program& program) {
 
         screen.enable_start(false);
         screen.lblCFG.show("処 理 開 始", colours::green);
+        program.period.fill_empty();
         if (program.run_mode == RunMode::replacement) {
             cmd_chikan(program);
             screen.enable_start(true);

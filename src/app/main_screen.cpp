@@ -16,6 +16,7 @@ MainScreen::MainScreen() {
     }
     Check2.value.on_change = [this] { Check2_Click(); };
     Check3.value.on_change = [this] { Check3_Click(); };
+    Check23.value.on_change = [this] { Check23_Click(); };
     for (TextBox* const mark : {&txtQSL_Q, &txtQSL_S}) {
         mark->text.on_change = [mark] { keep_first_character(*mark); };
     }
@@ -62,6 +63,11 @@ void MainScreen::Check3_Click() {
     if (Check3.value) {
         Check2.value = false;
     }
+}
+
+void MainScreen::Check23_Click() {
+    Check23.value = true;
+    option_clicked(Check23);
 }
 
 void MainScreen::keep_first_character(TextBox& box) {

@@ -53,6 +53,8 @@ struct MainScreen : Form {
     OptionGroup Option08{
         *this, "Option08", {"無変換", "全て J", "全て U", "DX 局 U", "ＪＡ 局 Ｊ"}, 0};
     OptionGroup Option1{*this, "Option1", {"U", "J"}, 0};
+    OptionGroup Option2{*this, "Option2", {"", "", ""}, 0};
+    OptionGroup Option22{*this, "Option22", {"", "", "", ""}, 0};
     OptionGroup Option4{*this, "Option4", {"左側", "右側", "左側", "右側"}, 1};
 
     CheckBox Check01{*this, "Check01", "Freq 取り込み", true};
@@ -83,9 +85,16 @@ struct MainScreen : Form {
     CheckBox Check2{*this, "Check2", " N --> J"};
     CheckBox Check3{*this, "Check3", " J --> N"};
     CheckBox Check21{*this, "Check21", " 単数回 のみ は Ｇ・Ｌ 欄 に ＃ を書き込む"};
+    CheckBox Check22{*this, "Check22", "Entity 解析"};
+    CheckBox Check23{*this, "Check23", "No QSL の処理は 移動地を含むコールサイン で行う", true};
+    CheckBox Check24{*this, "Check24", ""};
+    CheckBox Check25{*this, "Check25", ""};
     CheckBox Check26{*this, "Check26", "エラー無しでもログ残す", true};
     CheckBox Check27{*this, "Check27", "受信ナンバーの空中線電力記号 ( H/M/L/P ) を削除"};
     CheckBox Check28{*this, "Check28", "APP_N1MM_EXCHANGE1 を Ｃｏｄｅ 欄に転記"};
+    CheckBox Check31{*this, "Check31", "N も検索"};
+    CheckBox Check32{*this, "Check32", "N も書換"};
+    CheckBox Check33{*this, "Check33", "無登録は N に書換"};
     TextBox txtQSL_Q{*this, "txtQSL_Q", "J"};
     TextBox txtQSL_S{*this, "txtQSL_S", "*"};
     TextBox txtRmks1{*this, "txtRmks1"};
@@ -135,6 +144,8 @@ struct MainScreen : Form {
 
     void Check2_Click();
     void Check3_Click();
+    // Cannot be switched off.
+    void Check23_Click();
     void txtOp_name_Change();
     void txtYYYY_Change();
 

@@ -49,6 +49,18 @@ enum class RunMode {
     replacement,  // 置換: the "#" of a contest file become blanks
 };
 
+// The No QSL period, two days as yyyymmdd.
+struct Period {
+    std::string Start_date = "19600101";
+    std::string End_date;
+
+    // What a run takes for a day that is not set.
+    void fill_empty() {
+        Start_date = Start_date.empty() ? "19600101" : Start_date;
+        End_date = End_date.empty() ? "20100101" : End_date;
+    }
+};
+
 struct Program {
     Program(const Ports& outside, std::string_view program_folder, std::string_view windows_folder);
     Program(const Program&) = delete;
@@ -69,6 +81,7 @@ struct Program {
     RemarkUse remark_use;
     RemarkLengths remark_lengths;
     CallMemory call_memory;
+    Period period;
     RunMode run_mode = RunMode::conversion;
     // Lines that the operator filter let through; .TXT logs are counted apart, and the warning
     // about an operator without lines looks at the first count alone.

@@ -48,6 +48,7 @@ void Form_Load(Program& program) {
     screen.mnuDisp_dup.enabled = false;
     kettuka_disp_clear(program.counters, screen);
     screen.txtYYYY.text = present_year(program.clock);
+    program.period.End_date = file_stamp(program.clock.now()).substr(0, 8);
     screen.lblIn_name.fore_colour = colours::red;
     screen.lblInfo.fore_colour = colours::red;
     screen.lblInfo.caption = "入力ファイルを指定して下さい";

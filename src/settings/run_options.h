@@ -20,6 +20,8 @@ struct RunOptions {
     int Option08 = 0;  // time: 0 as it is, 1 all J, 2 all U, 3 DX stations U, 4 JA stations J
     int Option09 = 0;  // order: 0 ASCII, 1 JARL, 2 JARL reversed
     int Option1 = 0;   // time of the log: 0 UTC, 1 Japan time
+    int Option2 = 0;   // the upper tab shown first
+    int Option22 = 0;  // the lower tab shown first
     int Option4 = 1;   // Text_data remark: 0 left, 1 right of Rmks 1, 2 left, 3 right of Rmks 2
 
     // --- check boxes ---
@@ -52,6 +54,13 @@ struct RunOptions {
     bool Check2 = false;    // one card turns the whole station's N into the transfer mark
     bool Check3 = false;    // one N turns the whole station's marks into N
     bool Check21 = false;   // "#" in G/L of stations worked once
+    bool Check23 = true;    // the No QSL test goes by the call with its portable part; always on
+    bool Check26 = true;    // keep a trace log that tells of no failure
+    bool Check27 = false;   // for one run: take the power letter off the number received
+    bool Check28 = false;   // for one run: copy APP_N1MM_EXCHANGE1 into the code
+    bool Check31 = false;   // member search: ask about N too,
+    bool Check32 = false;   //   rewrite N too,
+    bool Check33 = false;   //   N for those who are no members
 
     // --- texts ---
 
@@ -63,6 +72,10 @@ struct RunOptions {
     std::string txtRmks2 = {};
 
     // --- settings that no control of the main screen shows ---
+
+    // The No QSL period, yyyymmdd.
+    std::string Start_date = "19600101";
+    std::string End_date = {};
 
     // Comma lists of source names, the first ranking highest; three places count.
     std::string name_yusen_jun = "dat_mas,name_mas,qth_mas,Text_data";

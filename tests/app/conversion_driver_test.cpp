@@ -308,6 +308,16 @@ TEST_F(ConversionDriver, NoQslRuleLosesItsSelectionWithoutALogBook) {
     EXPECT_FALSE(program.ended());
 }
 
+TEST_F(ConversionDriver, AnEmptyPeriodIsFilled) {
+    EXPECT_EQ(program.period.Start_date, "19600101");
+    EXPECT_EQ(program.period.End_date, "20260504");
+    program.period.Start_date.clear();
+    program.period.End_date.clear();
+    screen.cmdStart.press();
+    EXPECT_EQ(program.period.Start_date, "19600101");
+    EXPECT_EQ(program.period.End_date, "20100101");
+}
+
 TEST_F(ConversionDriver, EmptyMarksBecomeOneBlank) {
     screen.txtQSL_Q.text = "";
     screen.txtQSL_S.text = "";

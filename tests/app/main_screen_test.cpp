@@ -36,6 +36,35 @@ TEST(MainScreen, AClickedOptionClearsOldResultsAndShowsItsState) {
     }
 }
 
+TEST(MainScreen, PortableCallsCannotBeSwitchedOff) {
+    MainScreen screen;
+    EXPECT_TRUE(screen.Check23.enter("0"));
+    EXPECT_TRUE(screen.Check23.value);
+    EXPECT_EQ(screen.Check23.fore_colour.get(), colours::blue);
+}
+
+TEST(MainScreen, TurningMarksOneWayTakesTheOtherWayOff) {
+    MainScreen screen;
+    screen.Check2.value = true;
+    screen.Check3.value = true;
+    EXPECT_FALSE(screen.Check2.value);
+    screen.Check2.value = true;
+    EXPECT_FALSE(screen.Check3.value);
+}
+
+TEST(MainScreen, MarksKeepTheirFirstCharacter) {
+    MainScreen screen;
+    screen.txtQSL_Q.text = "BX";
+    EXPECT_EQ(screen.txtQSL_Q.text.get(), "B");
+}
+
+TEST(MainScreen, ChosenButtonOfAGroupIsBlue) {
+    MainScreen screen;
+    screen.Option09.index = 1;
+    EXPECT_EQ(screen.Option09.buttons.get()[0].fore_colour, colours::black);
+    EXPECT_EQ(screen.Option09.buttons.get()[1].fore_colour, colours::blue);
+}
+
 TEST(MainScreen, YearKeepsItsFirstFourCharacters) {
     MainScreen screen;
     screen.txtYYYY.text = "20259";
