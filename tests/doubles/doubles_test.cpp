@@ -84,8 +84,8 @@ class BothDisks : public testing::TestWithParam<Operation> {
     }
 
     void put(const std::string& name, const std::string& bytes) {
-        write_bytes(scratch_.path() / "c" / "work" / name, bytes);
-        memory_.put(R"(C:\work\)" + name, bytes);
+        write_bytes(scratch_.path() / "c" / "files" / name, bytes);
+        memory_.put(R"(C:\files\)" + name, bytes);
     }
 
     ScratchFolder scratch_;
@@ -112,20 +112,20 @@ Operation exists(const char* name, const char* path, bool file, bool folder) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Existence, BothDisks,
-                         testing::Values(exists("File", R"(C:\work\a.txt)", true, false),
-                                         exists("AnyCase", R"(c:\WORK\A.TXT)", true, false),
-                                         exists("Doubled", R"(C:\\work\\a.txt)", true, false),
-                                         exists("Slashes", "c:/Work/a.txt", true, false),
-                                         exists("Folder", R"(C:\work)", false, true),
-                                         exists("FolderSlash", "C:/work/", false, true),
-                                         exists("FolderEnd", R"(C:\Work\)", false, true),
+                         testing::Values(exists("File", R"(C:\files\a.txt)", true, false),
+                                         exists("AnyCase", R"(c:\FILES\A.TXT)", true, false),
+                                         exists("Doubled", R"(C:\\files\\a.txt)", true, false),
+                                         exists("Slashes", "c:/Files/a.txt", true, false),
+                                         exists("Folder", R"(C:\files)", false, true),
+                                         exists("FolderSlash", "C:/files/", false, true),
+                                         exists("FolderEnd", R"(C:\Files\)", false, true),
                                          exists("EmptyFolder", R"(C:\empty)", false, true),
                                          exists("Root", R"(C:\)", false, true),
-                                         exists("Wide", R"(C:\work\表ソ.DAT)", true, false),
-                                         exists("Missing", R"(C:\work\none)", false, false),
+                                         exists("Wide", R"(C:\files\表ソ.DAT)", true, false),
+                                         exists("Missing", R"(C:\files\none)", false, false),
                                          exists("NoFolder", R"(C:\none\a.txt)", false, false),
                                          exists("NoDrive", R"(Q:\a.txt)", false, false),
-                                         exists("BadName", R"(C:\work\?.txt)", false, false)),
+                                         exists("BadName", R"(C:\files\?.txt)", false, false)),
                          operation_name);
 
 Operation reading(const char* name, const char* path, const char* outcome) {
@@ -133,17 +133,17 @@ Operation reading(const char* name, const char* path, const char* outcome) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Reading, BothDisks,
-                         testing::Values(reading("File", R"(C:\work\a.txt)", "one"),
-                                         reading("AnyCase", R"(c:\Work\b.dat)", "three"),
-                                         reading("Doubled", R"(C:\\work\\B.DAT)", "three"),
-                                         reading("Slashes", "C:/work//B.DAT", "three"),
-                                         reading("Empty", R"(C:\work\c.dat)", ""),
-                                         reading("Missing", R"(C:\work\none)", "53"),
+                         testing::Values(reading("File", R"(C:\files\a.txt)", "one"),
+                                         reading("AnyCase", R"(c:\Files\b.dat)", "three"),
+                                         reading("Doubled", R"(C:\\files\\B.DAT)", "three"),
+                                         reading("Slashes", "C:/files//B.DAT", "three"),
+                                         reading("Empty", R"(C:\files\c.dat)", ""),
+                                         reading("Missing", R"(C:\files\none)", "53"),
                                          reading("NoFolder", R"(C:\none\a.txt)", "76"),
-                                         reading("FileAsFolder", R"(C:\work\a.txt\b)", "76"),
+                                         reading("FileAsFolder", R"(C:\files\a.txt\b)", "76"),
                                          reading("NoDrive", R"(Q:\a.txt)", "76"),
-                                         reading("Folder", R"(C:\work)", "75"),
-                                         reading("BadName", R"(C:\work\?.txt)", "52")),
+                                         reading("Folder", R"(C:\files)", "75"),
+                                         reading("BadName", R"(C:\files\?.txt)", "52")),
                          operation_name);
 
 Operation writing(const char* name, const char* path, WriteMode mode, const char* outcome) {
@@ -159,35 +159,35 @@ INSTANTIATE_TEST_SUITE_P(
     Writing, BothDisks,
     testing::Values(writing("New", R"(C:\empty\a)", WriteMode::replace, "two"),
                     writing("NewAtEnd", R"(C:\empty\a)", WriteMode::append, "two"),
-                    writing("Slashes", "C:/work/B.DAT", WriteMode::append, "threetwo"),
+                    writing("Slashes", "C:/files/B.DAT", WriteMode::append, "threetwo"),
                     writing("InRoot", R"(C:\a)", WriteMode::replace, "two"),
-                    writing("Replacing", R"(C:\work\b.dat)", WriteMode::replace, "two"),
-                    writing("Appending", R"(C:\work\b.dat)", WriteMode::append, "threetwo"),
+                    writing("Replacing", R"(C:\files\b.dat)", WriteMode::replace, "two"),
+                    writing("Appending", R"(C:\files\b.dat)", WriteMode::append, "threetwo"),
                     writing("NoFolder", R"(C:\none\a)", WriteMode::replace, "76"),
-                    writing("FileAsFolder", R"(C:\work\a.txt\b)", WriteMode::replace, "76"),
+                    writing("FileAsFolder", R"(C:\files\a.txt\b)", WriteMode::replace, "76"),
                     writing("NoDrive", R"(Q:\a.txt)", WriteMode::replace, "76"),
-                    writing("Folder", R"(C:\work)", WriteMode::replace, "75"),
-                    writing("FolderAtEnd", R"(C:\work)", WriteMode::append, "75"),
-                    writing("BadName", R"(C:\work\a|b)", WriteMode::replace, "52")),
+                    writing("Folder", R"(C:\files)", WriteMode::replace, "75"),
+                    writing("FolderAtEnd", R"(C:\files)", WriteMode::append, "75"),
+                    writing("BadName", R"(C:\files\a|b)", WriteMode::replace, "52")),
     operation_name);
 
 Operation removing(const char* name, const char* path, const char* outcome) {
     return {name,
             [path](Disk& disk) {
                 disk.remove(path);
-                return joined(disk.names(R"(C:\work\*)"));
+                return joined(disk.names(R"(C:\files\*)"));
             },
             outcome};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Removing, BothDisks,
-    testing::Values(removing("File", R"(C:\work\B.DAT)", "a.txt c.dat 表ソ.dat"),
-                    removing("AnyCase", R"(C:\WORK\A.txt)", "B.DAT c.dat 表ソ.dat"),
-                    removing("Missing", R"(C:\work\none)", "53"),
+    testing::Values(removing("File", R"(C:\files\B.DAT)", "a.txt c.dat 表ソ.dat"),
+                    removing("AnyCase", R"(C:\FILES\A.txt)", "B.DAT c.dat 表ソ.dat"),
+                    removing("Missing", R"(C:\files\none)", "53"),
                     removing("NoFolder", R"(C:\none\a)", "76"),
                     removing("Folder", R"(C:\empty)", "75"),
-                    removing("BadName", R"(C:\work\*.*)", "52")),
+                    removing("BadName", R"(C:\files\*.*)", "52")),
     operation_name);
 
 Operation listing(const char* name, const char* pattern, const char* outcome) {
@@ -196,14 +196,15 @@ Operation listing(const char* name, const char* pattern, const char* outcome) {
 
 INSTANTIATE_TEST_SUITE_P(
     Listing, BothDisks,
-    testing::Values(listing("All", R"(C:\work\*)", "B.DAT a.txt c.dat 表ソ.dat"),
-                    listing("Some", R"(C:\WORK\*.dat)", "B.DAT c.dat 表ソ.dat"),
-                    listing("OneEach", R"(C:\work\?.dat)", "B.DAT c.dat"),
-                    listing("One", R"(C:\work\A.TXT)", "a.txt"),
-                    listing("Doubled", R"(C:\\work\\*.txt)", "a.txt"),
-                    listing("Slashes", "C:/work/*.txt", "a.txt"),
-                    listing("NoFile", R"(C:\work\*.csv)", ""), listing("FoldersNot", R"(C:\*)", ""),
-                    listing("NoFolder", R"(C:\none\*)", ""), listing("NoDrive", R"(Q:\*)", "")),
+    testing::Values(listing("All", R"(C:\files\*)", "B.DAT a.txt c.dat 表ソ.dat"),
+                    listing("Some", R"(C:\FILES\*.dat)", "B.DAT c.dat 表ソ.dat"),
+                    listing("OneEach", R"(C:\files\?.dat)", "B.DAT c.dat"),
+                    listing("One", R"(C:\files\A.TXT)", "a.txt"),
+                    listing("Doubled", R"(C:\\files\\*.txt)", "a.txt"),
+                    listing("Slashes", "C:/files/*.txt", "a.txt"),
+                    listing("NoFile", R"(C:\files\*.csv)", ""),
+                    listing("FoldersNot", R"(C:\*)", ""), listing("NoFolder", R"(C:\none\*)", ""),
+                    listing("NoDrive", R"(Q:\*)", "")),
     operation_name);
 
 Operation making_folder(const char* name, const char* path, const char* outcome) {
@@ -219,10 +220,10 @@ Operation making_folder(const char* name, const char* path, const char* outcome)
 INSTANTIATE_TEST_SUITE_P(MakingFolders, BothDisks,
                          testing::Values(making_folder("New", R"(C:\empty\new)", "yes no"),
                                          making_folder("InRoot", R"(C:\new\)", "yes no"),
-                                         making_folder("ThereAlready", R"(C:\Work)", "75"),
-                                         making_folder("FileThere", R"(C:\work\A.txt)", "75"),
+                                         making_folder("ThereAlready", R"(C:\Files)", "75"),
+                                         making_folder("FileThere", R"(C:\files\A.txt)", "75"),
                                          making_folder("NoFolder", R"(C:\none\new)", "76"),
-                                         making_folder("BadName", R"(C:\work\a*b)", "52")),
+                                         making_folder("BadName", R"(C:\files\a*b)", "52")),
                          operation_name);
 
 std::string bytes_of(Disk& disk, std::string_view path) {
@@ -230,10 +231,10 @@ std::string bytes_of(Disk& disk, std::string_view path) {
 }
 
 const std::vector<Operation> of_several_calls{
-    {"SizeOfAFile", [](Disk& disk) { return bytes_of(disk, R"(C:\WORK\b.dat)"); }, "5"},
-    {"SizeOfAMissingFile", [](Disk& disk) { return bytes_of(disk, R"(C:\work\none)"); }, "53"},
-    {"SizeOfAFolder", [](Disk& disk) { return bytes_of(disk, R"(C:\work)"); }, "75"},
-    {"TimeOfAMissingFile", [](Disk& disk) { return time_text(disk, R"(C:\work\none)"); }, "53"},
+    {"SizeOfAFile", [](Disk& disk) { return bytes_of(disk, R"(C:\FILES\b.dat)"); }, "5"},
+    {"SizeOfAMissingFile", [](Disk& disk) { return bytes_of(disk, R"(C:\files\none)"); }, "53"},
+    {"SizeOfAFolder", [](Disk& disk) { return bytes_of(disk, R"(C:\files)"); }, "75"},
+    {"TimeOfAMissingFile", [](Disk& disk) { return time_text(disk, R"(C:\files\none)"); }, "53"},
     {"TimeInAMissingFolder", [](Disk& disk) { return time_text(disk, R"(C:\none\a)"); }, "76"},
     {"NameAsFirstWritten",
      [](Disk& disk) {
@@ -244,26 +245,26 @@ const std::vector<Operation> of_several_calls{
      "New.Txt"},
     {"RemoveMatching",
      [](Disk& disk) {
-         const std::size_t count = remove_matching(disk, R"(C:\work\*.dat)");
-         return std::to_string(count) + " " + joined(disk.names(R"(C:\work\*)"));
+         const std::size_t count = remove_matching(disk, R"(C:\files\*.dat)");
+         return std::to_string(count) + " " + joined(disk.names(R"(C:\files\*)"));
      },
      "3 a.txt"},
     {"CopyFile",
      [](Disk& disk) {
-         copy_file(disk, R"(C:\work\b.dat)", R"(C:\work\a.txt)");
-         return read_all(disk, R"(C:\work\a.txt)");
+         copy_file(disk, R"(C:\files\b.dat)", R"(C:\files\a.txt)");
+         return read_all(disk, R"(C:\files\a.txt)");
      },
      "three"},
     {"CopyOverItself",
      [](Disk& disk) {
-         copy_file(disk, R"(C:\work\b.dat)", R"(C:\work\B.DAT)");
-         return read_all(disk, R"(C:\work\b.dat)");
+         copy_file(disk, R"(C:\files\b.dat)", R"(C:\files\B.DAT)");
+         return read_all(disk, R"(C:\files\b.dat)");
      },
      "55"},
     {"WrittenWithoutClose",
      [](Disk& disk) {
-         disk.open_for_writing(R"(C:\work\a.txt)", WriteMode::append)->write("!");
-         return read_all(disk, R"(C:\work\a.txt)");
+         disk.open_for_writing(R"(C:\files\a.txt)", WriteMode::append)->write("!");
+         return read_all(disk, R"(C:\files\a.txt)");
      },
      "one!"},
     {"ThereOnceOpened",
@@ -274,43 +275,43 @@ const std::vector<Operation> of_several_calls{
      "yes"},
     {"ReadTwiceAtOnce",
      [](Disk& disk) {
-         const auto open = disk.open_for_reading(R"(C:\work\a.txt)");
-         return read_all(disk, R"(C:\work\A.TXT)");
+         const auto open = disk.open_for_reading(R"(C:\files\a.txt)");
+         return read_all(disk, R"(C:\files\A.TXT)");
      },
      "one"},
     {"WriteWhileRead",
      [](Disk& disk) {
-         const auto open = disk.open_for_reading(R"(C:\work\a.txt)");
-         disk.open_for_writing(R"(C:\work\A.TXT)", WriteMode::append);
+         const auto open = disk.open_for_reading(R"(C:\files\a.txt)");
+         disk.open_for_writing(R"(C:\files\A.TXT)", WriteMode::append);
          return std::string();
      },
      "55"},
     {"ReadWhileWritten",
      [](Disk& disk) {
-         const auto open = disk.open_for_writing(R"(C:\work\a.txt)", WriteMode::append);
-         return read_all(disk, R"(C:\work\A.TXT)");
+         const auto open = disk.open_for_writing(R"(C:\files\a.txt)", WriteMode::append);
+         return read_all(disk, R"(C:\files\A.TXT)");
      },
      "55"},
     {"WriteWhileWritten",
      [](Disk& disk) {
-         const auto open = disk.open_for_writing(R"(C:\work\a.txt)", WriteMode::replace);
-         disk.open_for_writing(R"(C:\work\a.txt)", WriteMode::replace);
+         const auto open = disk.open_for_writing(R"(C:\files\a.txt)", WriteMode::replace);
+         disk.open_for_writing(R"(C:\files\a.txt)", WriteMode::replace);
          return std::string();
      },
      "55"},
     {"ReleasedByClose",
      [](Disk& disk) {
-         const auto open = disk.open_for_writing(R"(C:\work\a.txt)", WriteMode::replace);
+         const auto open = disk.open_for_writing(R"(C:\files\a.txt)", WriteMode::replace);
          open->write("!");
          open->close();
-         return read_all(disk, R"(C:\work\a.txt)");
+         return read_all(disk, R"(C:\files\a.txt)");
      },
      "!"},
     {"ReleasedByTheReader",
      [](Disk& disk) {
-         disk.open_for_reading(R"(C:\work\a.txt)");
-         write_all(disk, R"(C:\work\a.txt)", "!");
-         return read_all(disk, R"(C:\work\a.txt)");
+         disk.open_for_reading(R"(C:\files\a.txt)");
+         write_all(disk, R"(C:\files\a.txt)", "!");
+         return read_all(disk, R"(C:\files\a.txt)");
      },
      "!"},
 };
@@ -459,12 +460,12 @@ TEST(FailingDisk, DoesNotDoWhatFails) {
 
 TEST(FailingDisk, FailsWheneverAFileOfTheNameIsOpenedForWriting) {
     MemoryDisk memory;
-    memory.put(R"(C:\work\A.txt)", "a");
+    memory.put(R"(C:\files\A.txt)", "a");
     memory.put_folder(R"(C:\other)");
     FailingDisk disk(memory);
     disk.fail_writing("a.TXT", Failure::permission_denied);
     for (const char* const path :
-         {R"(C:\work\a.txt)", R"(C:\WORK\A.TXT)", R"(C:\other\a.txt)", R"(C:\work\A.txt)"}) {
+         {R"(C:\files\a.txt)", R"(C:\FILES\A.TXT)", R"(C:\other\a.txt)", R"(C:\files\A.txt)"}) {
         for (const WriteMode mode : {WriteMode::replace, WriteMode::append}) {
             try {
                 disk.open_for_writing(path, mode);
@@ -474,9 +475,9 @@ TEST(FailingDisk, FailsWheneverAFileOfTheNameIsOpenedForWriting) {
             }
         }
     }
-    EXPECT_EQ(read_all(disk, R"(C:\work\a.txt)"), "a");
-    write_all(disk, R"(C:\work\aa.txt)", "b");
-    EXPECT_EQ(memory.bytes(R"(C:\work\aa.txt)"), "b");
+    EXPECT_EQ(read_all(disk, R"(C:\files\a.txt)"), "a");
+    write_all(disk, R"(C:\files\aa.txt)", "b");
+    EXPECT_EQ(memory.bytes(R"(C:\files\aa.txt)"), "b");
 }
 
 }  // namespace
