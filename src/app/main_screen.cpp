@@ -14,6 +14,14 @@ MainScreen::MainScreen() {
             option_clicked(*group);
         }
     }
+    // What these would ask is not there yet: neither masters of codes nor the log book's history.
+    for (OptionGroup* const group : {&Option02, &Option07}) {
+        std::vector<OptionGroup::Button> buttons = group->buttons;
+        for (std::size_t i = 1; i < buttons.size(); ++i) {
+            buttons[i].enabled = false;
+        }
+        group->buttons = std::move(buttons);
+    }
     Check2.value.on_change = [this] { Check2_Click(); };
     Check3.value.on_change = [this] { Check3_Click(); };
     Check23.value.on_change = [this] { Check23_Click(); };

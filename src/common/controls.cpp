@@ -82,10 +82,11 @@ OptionGroup::OptionGroup(Form& form, std::string name, const std::vector<std::st
 
 bool OptionGroup::enter(std::string_view text) {
     const std::optional<int> chosen = index_below(text, buttons.get().size());
-    if (chosen) {
-        index = *chosen;
+    if (!chosen || !buttons.get()[static_cast<std::size_t>(*chosen)].enabled) {
+        return false;
     }
-    return chosen.has_value();
+    index = *chosen;
+    return true;
 }
 
 TextBox::TextBox(Form& form, std::string name, std::string initial)

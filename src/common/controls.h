@@ -175,7 +175,7 @@ class OptionGroup : public Control {
     Property<std::vector<Button>> buttons;
     Property<int> index;  // of the chosen button; on_change is the group's Click
 
-    // The index of a button that is there.
+    // The index of a button that is there and enabled.
     bool enter(std::string_view text) override;
 };
 

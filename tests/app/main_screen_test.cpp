@@ -65,6 +65,14 @@ TEST(MainScreen, ChosenButtonOfAGroupIsBlue) {
     EXPECT_EQ(screen.Option09.buttons.get()[1].fore_colour, colours::blue);
 }
 
+TEST(MainScreen, ChoicesWithoutTheirMastersCannotBeMade) {
+    MainScreen screen;
+    EXPECT_FALSE(screen.Option02.enter("1"));
+    EXPECT_FALSE(screen.Option07.enter("2"));
+    EXPECT_TRUE(screen.Option02.enter("0"));
+    EXPECT_EQ(screen.Option02.index.get(), 0);
+}
+
 TEST(MainScreen, YearKeepsItsFirstFourCharacters) {
     MainScreen screen;
     screen.txtYYYY.text = "20259";
