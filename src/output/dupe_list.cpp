@@ -127,20 +127,10 @@ bool wpx_dupe_chk_5(const Stage& stage, const DupeRequest& request, const Band& 
     });
 }
 
-void copy_lines(const Stage& stage, const std::string& from, const std::string& to,
-                WriteMode mode) {
-    TextInput input = stage.open_input(from);
-    TextOutput output = stage.open_output(to, mode);
-    for (std::string_view line; input.next_line(line);) {
-        output.write_line(line);
-    }
-    output.close();
-}
-
 // The first section of the list.
 void wpx_dupe_chk_out(const Stage& stage, const std::string& section, const std::string& list) {
     enter_procedure(stage.trace, "Private Sub wpx_dupe_chk_out()",
-                    [&] { copy_lines(stage, section, list, WriteMode::replace); });
+                    [&] { stage.copy_lines(section, list); });
 }
 
 }  // namespace
@@ -223,7 +213,7 @@ void wpx_dupe_chk_7(const Stage& stage, const DupeRequest& request) {
                 continue;
             }
             if (stage.disk.file_exists(list)) {
-                copy_lines(stage, section, list, WriteMode::append);
+                stage.copy_lines(section, list, WriteMode::append);
             } else {
                 wpx_dupe_chk_out(stage, section, list);
             }

@@ -14,6 +14,15 @@ TextOutput Stage::open_output(std::string_view path, WriteMode mode) const {
     return {disk, path, mode};
 }
 
+void Stage::copy_lines(std::string_view from, std::string_view to, WriteMode mode) const {
+    TextInput input = open_input(from);
+    TextOutput output = open_output(to, mode);
+    for (std::string_view line; input.next_line(line);) {
+        output.write_line(line);
+    }
+    output.close();
+}
+
 void Stage::tell(std::string_view caption, Colour colour) const {
     lblCFG.show(caption, colour);
 }

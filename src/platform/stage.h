@@ -29,9 +29,13 @@ struct Stage {
     // Puts a caption into the status label.
     void tell(std::string_view caption, Colour colour) const;
 
+    // Copies a file line by line, over another or behind its end.
+    void copy_lines(std::string_view from, std::string_view to,
+                    WriteMode mode = WriteMode::replace) const;
+
     // Takes the count of records of a file, one more than its lines if it ends in a line end, and
     // starts the progress bar with it; the maximum is `beyond` more than the count. Returns the
-    // count. The file is only read.
+    // count. The file is only read, so a write-protected log has its count too.
     std::size_t count_file_rec(std::string_view path, std::size_t beyond = 1) const;
 
     // Has a file sorted; events of the screen run before each attempt while the service is busy.

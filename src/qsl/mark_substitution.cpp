@@ -96,15 +96,6 @@ void rewrite_marks(const Stage& stage, const Rule& rule,
     output.close();
 }
 
-void copy_lines(const Stage& stage, std::string_view from, std::string_view to) {
-    TextInput input = stage.open_input(from);
-    TextOutput output = stage.open_output(to);
-    for (std::string_view line; input.next_line(line);) {
-        output.write_line(line);
-    }
-    output.close();
-}
-
 void substitute(const Stage& stage, const MarkRequest& request, const Rule& rule) {
     const std::string name(rule.name);
     trap_failures(stage.trace, name, ErrorLine{rule.error_line}, [&] {
@@ -118,7 +109,7 @@ void substitute(const Stage& stage, const MarkRequest& request, const Rule& rule
         stage.remove(contest_copy);
         stage.trace.write(name + "_3");
         const std::string hamlog_copy = scratch(request, "hamlog_n_1.csv");
-        copy_lines(stage, request.hamlog_file, hamlog_copy);
+        stage.copy_lines(request.hamlog_file, hamlog_copy);
         stage.trace.write(name + "_4");
         rewrite_marks(stage, rule, stations, hamlog_copy, request.hamlog_file);
         stage.remove(hamlog_copy);

@@ -46,7 +46,8 @@ std::string compose_remark(const std::vector<RemarkItem>& items, const RemarkLen
     for (const RemarkItem item : items) {
         std::string text = item_text(item, texts);
         if (const std::size_t size = lengths.of(item); size != 0) {
-            text = left(text + std::string(size, ' '), static_cast<Count>(size));
+            text.append(size, ' ');
+            text = std::string(left(text, static_cast<Count>(size)));
         }
         if (fixed_layout) {
             remark += text;

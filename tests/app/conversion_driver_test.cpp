@@ -188,6 +188,31 @@ TEST_F(ConversionDriver, StartIsDisabledWhileItRuns) {
     EXPECT_TRUE(screen.tool_convert.enabled);
 }
 
+TEST_F(ConversionDriver, OldTextsGoAwayAtTheStart) {
+    screen.lblIn_rec_count.caption = "old";
+    screen.lblMsg.caption = "old";
+    screen.cmdStart.press();
+    EXPECT_EQ(screen.lblIn_rec_count.caption.get(), "");
+    EXPECT_EQ(screen.lblMsg.caption.get(), "");
+}
+
+TEST_F(ConversionDriver, ProgressIsShownWhileItRuns) {
+    bool shown = false;
+    screen.ProgressBar1.listener = [&] { shown = shown || screen.ProgressBar1.visible; };
+    screen.cmdStart.press();
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(screen.ProgressBar1.visible);
+}
+
+// The warning looks at the count of .ALL logs alone.
+TEST_F(ConversionDriver, LinesOfATxtLogAreCountedApart) {
+    kit.put_text("C:\\log\\x.txt", sample_txt_log);
+    kit.open("C:\\log\\x.txt");
+    screen.cmdStart.press();
+    EXPECT_EQ(program.kept_lines_of_txt, 1U);
+    EXPECT_EQ(program.kept_lines, 0U);
+}
+
 TEST_F(ConversionDriver, ResultsAreEnabledAndTheResultTabIsShown) {
     kit.put_text("C:\\log\\x.dup", "");
     screen.cmdStart.press();

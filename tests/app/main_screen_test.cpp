@@ -73,6 +73,13 @@ TEST(MainScreen, ChoicesWithoutTheirMastersCannotBeMade) {
     EXPECT_EQ(screen.Option02.index.get(), 0);
 }
 
+TEST(MainScreen, SlotsOfAFirstStart) {
+    MainScreen screen;
+    EXPECT_EQ(screen.lblRmks1[0].caption.get(), "ｺﾝﾃｽﾄ");
+    EXPECT_EQ(screen.lblRmks1[1].caption.get(), "");
+    EXPECT_EQ(screen.lblRmks2[0].caption.get(), "Rmks2");
+}
+
 TEST(MainScreen, YearKeepsItsFirstFourCharacters) {
     MainScreen screen;
     screen.txtYYYY.text = "20259";

@@ -137,6 +137,13 @@ TEST_F(OpenTextLog, ViewersFollowWhatAnEarlierRunLeft) {
     EXPECT_EQ(screen.mnuJARL_Web_OK_hamj.caption.get(), "x_hjn.csv");
     EXPECT_EQ(screen.mnuDisp_dup.caption.get(), "C:\\log\\x.dup");
     EXPECT_EQ(screen.cmdDisp_Hamlog.tool_tip.get(), "C:\\log\\x_hjn.csv");
+    EXPECT_EQ(screen.cmdDisp_contest.tool_tip.get(), "C:\\log\\x_cjn.csv");
+    EXPECT_EQ(screen.lblOut_name1.tool_tip.get(), "C:\\log\\x_cjn.csv");
+    EXPECT_EQ(screen.lblOut_name2.tool_tip.get(), "C:\\log\\x_hjn.csv");
+    EXPECT_EQ(screen.tool_dup.tool_tip.get(), "C:\\log\\x.dup");
+    EXPECT_EQ(screen.mnuJARL_Web_OK_conj.caption.get(), "x_cjn.csv");
+    EXPECT_EQ(screen.mnuJARL_Web_NO_conj.caption.get(), "x_cjn.csv");
+    EXPECT_EQ(screen.mnuJARL_Web_NO_hamj.caption.get(), "x_hjn.csv");
 }
 
 TEST_F(OpenTextLog, DialogsOfferTextLogs) {
@@ -160,6 +167,8 @@ TEST_F(OpenTextLog, PathOf50BytesIsShownInFull) {
         kit.open(folder + name);
         EXPECT_EQ(screen.lblIn_name.caption.get(), shown);
         EXPECT_LE(LenMbcs(screen.lblIn_name.caption.get()), 50U);
+        // The results are shortened if the log is.
+        EXPECT_EQ(LenMbcs(screen.lblOut_name2.caption.get()) > 50U, shown.size() == 50U);
     }
 }
 
