@@ -73,28 +73,40 @@ void NO_SORT(const Stage& stage, const OutputRequest& request, std::string_view 
     });
 }
 
-// Writes the rows of a file with their JARL keys and has them sorted.
-void sort_with_jarl_key(const Stage& stage, const OutputRequest& request,
-                        std::string_view rows_file, std::size_t columns, bool descending) {
+// What a sort by JARL key works on: rows with or without a key of another kind in front.
+struct JarlSort {
+    std::string rows;
+    std::string keyed;
+    std::string sorted;
+    std::size_t columns;
+    bool has_key;
+    bool descending;
+};
+
+// Writes the rows with their JARL keys and has them sorted.
+void sort_by_jarl_key(const Stage& stage, const JarlSort& sort) {
     {
-        TextInput input = stage.open_input(request.scratch(rows_file));
-        TextOutput output = stage.open_output(request.scratch(keyed_file));
-        RowReader row(input, columns);
+        TextInput input = stage.open_input(sort.rows);
+        TextOutput output = stage.open_output(sort.keyed);
+        const std::size_t key_columns = sort.has_key ? 1 : 0;
+        RowReader row(input, sort.columns + key_columns);
         std::string key;
         KeyedLine line;
         do {
             row.read();
-            make_jarl_key(key, row[0]);
-            line.assign(key, row.columns(), row.written_line());
+            const auto columns = row.columns().subspan(key_columns);
+            const std::string_view written = row.written_line();
+            make_jarl_key(key, columns[0]);  // the call base, in both kinds of rows
+            line.assign(key, columns, sort.has_key ? behind_key(written) : written);
             output.write_line(line.text());
         } while (!row.at_end());
         output.close();
     }
     stage.sort({.start = 2,
                 .length = jarl_key_width,
-                .descending = descending,
-                .from = request.scratch(keyed_file),
-                .to = request.scratch(sorted_file)});
+                .descending = sort.descending,
+                .from = sort.keyed,
+                .to = sort.sorted});
 }
 
 // The contest rows in reversed order beside the log; nothing reads them.
@@ -113,16 +125,24 @@ void write_hamlogja_0(const Stage& stage, const OutputRequest& request) {
 
 void jarl_sort_h(const Stage& stage, const OutputRequest& request, std::string_view procedure,
                  bool descending) {
+    const auto sort_rows = [&](std::string_view rows_file, std::size_t columns) {
+        sort_by_jarl_key(stage, {.rows = request.scratch(rows_file),
+                                 .keyed = request.scratch(keyed_file),
+                                 .sorted = request.scratch(sorted_file),
+                                 .columns = columns,
+                                 .has_key = false,
+                                 .descending = descending});
+    };
     enter_procedure(stage.trace, procedure, [&] {
         // Forward, the first pass leaves nothing behind; it is part of the procedure all the same.
-        sort_with_jarl_key(stage, request, contest_rows_file, contest_row::count, descending);
+        sort_rows(contest_rows_file, contest_row::count);
         if (descending) {
             write_hamlogja_0(stage, request);
         }
         kill(stage, request, keyed_file);
         kill(stage, request, sorted_file);
 
-        sort_with_jarl_key(stage, request, hamlog_rows_file, hamlog_row::count, descending);
+        sort_rows(hamlog_rows_file, hamlog_row::count);
         {
             TextInput input = stage.open_input(request.scratch(sorted_file));
             HamlogFileWriter writer(stage, request);
@@ -144,27 +164,12 @@ void jarl_sort_contest(const Stage& stage, const OutputRequest& request, std::st
                        bool descending) {
     enter_procedure(stage.trace, procedure, [&] {
         const std::string rows = request.scratch("temp_s.csv");
-        const std::string keyed = request.scratch("temp_sj.csv");
-        {
-            TextInput input = stage.open_input(rows);
-            TextOutput output = stage.open_output(keyed);
-            RowReader row(input, contest_row::count + 1);
-            std::string key;
-            KeyedLine line;
-            do {
-                row.read();
-                const auto columns = row.columns().subspan(1);
-                make_jarl_key(key, columns[contest_row::call_base]);
-                line.assign(key, columns, behind_key(row.written_line()));
-                output.write_line(line.text());
-            } while (!row.at_end());
-            output.close();
-        }
-        stage.sort({.start = 2,
-                    .length = jarl_key_width,
-                    .descending = descending,
-                    .from = keyed,
-                    .to = rows});
+        sort_by_jarl_key(stage, {.rows = rows,
+                                 .keyed = request.scratch("temp_sj.csv"),
+                                 .sorted = rows,
+                                 .columns = contest_row::count,
+                                 .has_key = true,
+                                 .descending = descending});
     });
 }
 
