@@ -5,22 +5,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "platform/host_disk.h"
-#include "platform/stage.h"
-#include "readers/zlog_text.h"
+#include "bench/reading.h"
 
 namespace veldrana {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Nobody is asked anything here.
-class NoPerson : public Person {
-  public:
-    Answer show(const MessageBox& /*box*/) override { return Answer::ok; }
-    std::string choose_file(const FileDialog& /*dialog*/) override { return {}; }
-    void pending_events() override {}
-};
 
 void write_log(const fs::path& file, std::int64_t contacts) {
     std::ofstream log(file, std::ios::binary);
@@ -37,21 +27,9 @@ void ReadAllLog(benchmark::State& state) {
     fs::create_directories(folder);
     write_log(folder / "x.all", state.range(0));
 
-    HostDisk disk({{'C', folder}}, folder);
-    TraceLog trace;
-    Form form;
-    Label lblCFG(form, "lblCFG");
-    ProgressBar bar(form, "ProgressBar1");
-    StableSort sorter(disk);
-    NoPerson person;
-    const Stage stage{disk, trace, sorter, person, lblCFG, bar};
-    const RunOptions options;
-    RemarkUse use;
-    use.mark(RemarkItem::memo);
-    use.mark(RemarkItem::op);
+    Reading reading(folder);
     for (auto iteration : state) {
-        benchmark::DoNotOptimize(a_2_t(
-            stage, {.in_name = "C:\\x.all", .in_Dir = "C:\\", .options = options, .use = use}));
+        benchmark::DoNotOptimize(reading.read("x.all"));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
     fs::remove_all(folder);

@@ -274,7 +274,8 @@ std::string_view get_op_all(std::string_view line) {
 std::string get_memo_all(std::string_view line, InputKind kind, const RemarkUse& use) {
     std::string without_mark;
     std::string_view whole = line;
-    if (line.find(dupe_mark) != std::string_view::npos) {
+    // Looked for without its first character: lines are full of "-".
+    if (line.find(dupe_mark.substr(1)) != std::string_view::npos) {
         whole = without_mark = replace_all(line, dupe_mark, "");
     }
     const auto size = static_cast<Count>(length(whole));
