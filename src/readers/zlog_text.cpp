@@ -43,8 +43,20 @@ struct Form {
 };
 
 constexpr std::string_view dupe_mark = "-DUPE-";
-constexpr std::string_view operator_mark = "%%";
 constexpr std::string_view memo_prefix = "memo=";
+
+// Where the text behind the last "%%" begins. Goes by single characters: a search for a text from
+// the end compares at every place.
+std::size_t behind_last_mark(std::string_view text) noexcept {
+    std::size_t last = text.rfind('%');
+    while (last != std::string_view::npos && last > 0) {
+        if (text[last - 1] == '%') {
+            return last + 1;
+        }
+        last = text.rfind('%', last - 1);
+    }
+    return std::string_view::npos;
+}
 
 bool holds(std::string_view text, char byte) {
     return text.find(byte) != std::string_view::npos;
@@ -288,8 +300,8 @@ std::string get_memo_all(std::string_view line, InputKind kind, const RemarkUse&
     }
     // Blanks at the end never reach the memo, whatever is taken out of the area.
     std::string_view area = trim_right(mid(whole, columns + 1));
-    if (const std::size_t mark = area.rfind(operator_mark); mark != std::string_view::npos) {
-        area = trim(area.substr(mark + operator_mark.size()));
+    if (const std::size_t behind = behind_last_mark(area); behind != std::string_view::npos) {
+        area = trim(area.substr(behind));
     }
     std::string memo;
     const std::size_t open = area.find('(');
