@@ -167,53 +167,37 @@ std::vector<std::string> split_quoted_fields(std::string_view line) {
     return {fields.all().begin(), fields.all().end()};
 }
 
+void QuotedFieldReader::begin_line(std::string_view line) {
+    fields_.split(line);
+    next_field_ = 0;
+}
+
 std::string_view QuotedFieldReader::next() {
-    if (next_field_ == fields_.size()) {
-        fields_.split(read_line(source_));
-        next_field_ = 0;
+    if (!within_line()) {
+        begin_line(read_line(source_));
     }
     return fields_[next_field_++];
 }
 
 bool QuotedFieldReader::at_end() {
-    return next_field_ == fields_.size() && source_.at_end();
+    return !within_line() && source_.at_end();
 }
 
 void RowReader::read() {
     written_line_ = {};
-    if (next_field_ != fields_.size()) {
-        read_fields();
-        return;
+    if (!fields_.within_line()) {
+        const std::string_view line = read_line(source_);
+        if (split_written_line(line, row_)) {
+            written_line_ = line;
+            return;
+        }
+        fields_.begin_line(line);
     }
-    const std::string_view line = read_line(source_);
-    if (split_written_line(line, row_)) {
-        written_line_ = line;
-        return;
-    }
-    fields_.split(line);
-    next_field_ = 0;
-    read_fields();
-}
-
-void RowReader::read_fields() {
-    if (next_field_ == 0 && fields_.size() == row_.size()) {
-        std::copy(fields_.all().begin(), fields_.all().end(), row_.begin());
-        next_field_ = fields_.size();
-        return;
-    }
-    // The row crosses lines, or shares its own: its columns are kept as texts.
+    // The row may go on in the line behind, so its columns are kept as texts.
     kept_.clear();
     for (std::string_view& column : row_) {
-        if (next_field_ == fields_.size()) {
-            fields_.split(read_line(source_));
-            next_field_ = 0;
-        }
-        column = kept_.emplace_back(fields_[next_field_++]);
+        column = kept_.emplace_back(fields_.next());
     }
-}
-
-bool RowReader::at_end() {
-    return next_field_ == fields_.size() && source_.at_end();
 }
 
 }  // namespace veldrana

@@ -72,6 +72,11 @@ class QuotedFieldReader {
     // Whether every field was read. Gives up what next gave.
     bool at_end();
 
+    // Whether a line was begun and has fields left.
+    bool within_line() const noexcept { return next_field_ < fields_.size(); }
+    // Goes on with the fields of this line, which was read from the source elsewhere.
+    void begin_line(std::string_view line);
+
   private:
     LineSource& source_;
     QuotedFields fields_;
@@ -82,13 +87,14 @@ class QuotedFieldReader {
 // the line behind it, one of too many leaves the rest for the next row.
 class RowReader {
   public:
-    RowReader(LineSource& source, std::size_t columns) : source_(source), row_(columns) {}
+    RowReader(LineSource& source, std::size_t columns)
+        : source_(source), fields_(source), row_(columns) {}
 
     // Failure 62 when a field is missing.
     void read();
 
     // Whether every field was read. Gives up the row.
-    bool at_end();
+    bool at_end() { return fields_.at_end(); }
 
     // The line that the row came in, if it stands there just as it would be written: one row, every
     // field in quotes. Else empty. A stage that changes nothing of a row writes this.
@@ -106,14 +112,11 @@ class RowReader {
     std::span<const std::string_view> columns() const noexcept { return row_; }
 
   private:
-    void read_fields();
-
     LineSource& source_;
-    QuotedFields fields_;
-    std::size_t next_field_ = 0;
+    QuotedFieldReader fields_;
     std::vector<std::string_view> row_;
     std::string_view written_line_;
-    std::deque<std::string> kept_;  // the columns of a row that crosses lines
+    std::deque<std::string> kept_;  // the columns of a row without a written line
 };
 
 }  // namespace veldrana

@@ -10,9 +10,7 @@
 #include "common/quoted_fields.h"
 #include "common/run_time_error.h"
 #include "qsl/mark_substitution.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -62,7 +60,7 @@ constexpr std::size_t qsl_of_intermediate = 10;
 constexpr std::size_t rmks1_of_intermediate = 13;
 constexpr std::size_t rmks2_of_intermediate = 14;
 
-class LastPass : public testing::Test {
+class LastPass : public StageFixture {
   protected:
     std::size_t run(const std::vector<Row>& rows) {
         std::string bytes;
@@ -93,14 +91,6 @@ class LastPass : public testing::Test {
         return 0;
     }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
-    const Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
     LastPassRequest request{.rows_file = rows_file,
                             .intermediate_file = intermediate_file,
                             .result_file = result_file,

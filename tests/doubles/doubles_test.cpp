@@ -12,6 +12,7 @@
 
 #include "common/run_time_error.h"
 #include "platform/host_disk.h"
+#include "tests/doubles/disk_bytes.h"
 #include "tests/doubles/memory_disk.h"
 #include "tests/doubles/scratch_folder.h"
 
@@ -20,24 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-
-std::string read_all(Disk& disk, std::string_view path) {
-    const std::unique_ptr<ByteSource> source = disk.open_for_reading(path);
-    std::string bytes;
-    std::array<char, 2> block{};
-    for (std::size_t count = source->read(block.data(), block.size()); count > 0;
-         count = source->read(block.data(), block.size())) {
-        bytes.append(block.data(), count);
-    }
-    return bytes;
-}
-
-void write_all(Disk& disk, std::string_view path, std::string_view bytes,
-               WriteMode mode = WriteMode::replace) {
-    const std::unique_ptr<ByteSink> sink = disk.open_for_writing(path, mode);
-    sink->write(bytes);
-    sink->close();
-}
 
 std::string yes_or_no(bool value) {
     return value ? "yes" : "no";

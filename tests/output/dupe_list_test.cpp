@@ -9,9 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "common/run_time_error.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -59,7 +57,7 @@ std::string file_of(const Lines& lines) {
     return bytes;
 }
 
-class DupeList : public testing::Test {
+class DupeList : public StageFixture {
   protected:
     DupeList() {
         disk.put_folder("C:\\log");
@@ -86,14 +84,6 @@ class DupeList : public testing::Test {
 
     std::string list() { return disk.bytes("C:\\log\\x.dup"); }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
-    const Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
     DupeRequest request{.in_name = "C:\\log\\x.all",
                         .in_Dir = "C:\\log\\",
                         .drive_path = "C:\\",

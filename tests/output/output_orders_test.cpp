@@ -10,9 +10,7 @@
 
 #include "common/quoted_fields.h"
 #include "common/run_time_error.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -44,7 +42,7 @@ constexpr std::size_t hamlog_tag = 14;
 constexpr std::size_t keyed_contest_tag = 17;
 
 // A log's rows on a disk in memory, as the row builder leaves them.
-class OutputOrders : public testing::Test {
+class OutputOrders : public StageFixture {
   protected:
     OutputOrders() { disk.put_folder("C:\\log"); }
 
@@ -90,14 +88,6 @@ class OutputOrders : public testing::Test {
 
     Fields calls_of_h0() { return column_of("C:\\log\\x_h0.csv", 0); }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
-    const Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
     RunOptions options{.Option05 = 1, .Option09 = 1};
     const OutputNames names = make_output_names("C:\\log\\x.all");
     const OutputRequest request{

@@ -22,6 +22,8 @@
 
 #include "common/run_time_error.h"
 #include "platform/text_file.h"
+#include "tests/doubles/disk_bytes.h"
+#include "tests/doubles/failure_of.h"
 #include "tests/doubles/memory_disk.h"
 #include "tests/doubles/scratch_folder.h"
 
@@ -32,34 +34,6 @@ namespace fs = std::filesystem;
 using namespace std::string_view_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-template <class Act>
-int failure_of(Act act) {
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-std::string read_all(Disk& disk, std::string_view path) {
-    const std::unique_ptr<ByteSource> source = disk.open_for_reading(path);
-    std::string bytes;
-    std::array<char, 1000> block{};
-    for (std::size_t count = source->read(block.data(), block.size()); count > 0;
-         count = source->read(block.data(), block.size())) {
-        bytes.append(block.data(), count);
-    }
-    return bytes;
-}
-
-void write_all(Disk& disk, std::string_view path, std::string_view bytes,
-               WriteMode mode = WriteMode::replace) {
-    const std::unique_ptr<ByteSink> sink = disk.open_for_writing(path, mode);
-    sink->write(bytes);
-    sink->close();
-}
 
 std::vector<std::string> host_names(const fs::path& folder) {
     std::vector<std::string> names;

@@ -13,6 +13,7 @@
 
 #include "common/run_time_error.h"
 #include "common/text.h"
+#include "tests/doubles/failure_of.h"
 #include "tests/doubles/memory_disk.h"
 
 namespace veldrana {
@@ -66,16 +67,6 @@ std::vector<std::string> lines_of(std::string_view bytes, std::size_t room) {
     DripDisk disk(room);
     disk.put(path, std::string(bytes));
     return lines_of(disk);
-}
-
-template <class Act>
-int failure_of(Act act) {
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 struct Content {

@@ -7,9 +7,7 @@
 #include "common/run_time_error.h"
 #include "common/text.h"
 #include "platform/code_page_932.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -74,7 +72,7 @@ std::string txt_line(const std::string& memo_column) {
 }
 
 // A log of one kind, read on a disk in memory.
-class ZlogText : public testing::Test {
+class ZlogText : public StageFixture {
   protected:
     std::vector<std::vector<std::string>> read(InputKind kind,
                                                const std::vector<std::string>& lines) {
@@ -87,7 +85,6 @@ class ZlogText : public testing::Test {
 
     std::vector<std::vector<std::string>> read_bytes_of(InputKind kind, const std::string& bytes) {
         disk.put("C:\\log\\x", bytes);
-        const Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
         const TextLogRequest request{
             .in_name = "C:\\log\\x", .in_Dir = "C:\\log\\", .options = options, .use = use};
         kept = kind == InputKind::all ? a_2_t(stage, request) : t_2_t(stage, request);
@@ -103,13 +100,6 @@ class ZlogText : public testing::Test {
         return read(kind, {line}).at(0).at(field);
     }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
     RunOptions options{.Check01 = true, .Check15 = false, .txtOp_name = "", .txtYYYY = "2025"};
     RemarkUse use;
     std::size_t kept = 0;

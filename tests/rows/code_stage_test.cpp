@@ -13,9 +13,7 @@
 #include "platform/code_page_932.h"
 #include "readers/coded_line.h"
 #include "readers/log_line.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -38,7 +36,7 @@ const LogLine sample{.year = "2021",
                      .frequency = "7.012",
                      .number_received = "104M"};
 
-class CodeStage : public testing::Test {
+class CodeStage : public StageFixture {
   protected:
     std::vector<std::vector<std::string>> coded(const std::vector<LogLine>& contacts) {
         std::string text;
@@ -61,15 +59,7 @@ class CodeStage : public testing::Test {
         return coded({contact}).at(0).at(field);
     }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
     RunOptions options;
-    Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
 };
 
 TEST_F(CodeStage, ALogLineGivesTheSeventeenFields) {

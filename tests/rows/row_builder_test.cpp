@@ -16,9 +16,7 @@
 #include "platform/code_page_932.h"
 #include "readers/coded_line.h"
 #include "rows/row_formats.h"
-#include "tests/doubles/collected_trace.h"
-#include "tests/doubles/memory_disk.h"
-#include "tests/doubles/scripted_person.h"
+#include "tests/doubles/stage_fixture.h"
 
 namespace veldrana {
 namespace {
@@ -68,7 +66,7 @@ Coded station(std::string_view call_base, std::string_view portable = {}) {
 
 using Row = std::vector<std::string>;
 
-class RowBuilderTest : public testing::Test {
+class RowBuilderTest : public StageFixture {
   protected:
     RowBuilderTest() { disk.put_folder("R:\\"); }
 
@@ -131,14 +129,6 @@ class RowBuilderTest : public testing::Test {
         options.Check11 = options.Check13 = options.Check9 = options.Check12 = true;
     }
 
-    Form form;
-    Label lblCFG{form, "lblCFG"};
-    ProgressBar bar{form, "ProgressBar1"};
-    MemoryDisk disk;
-    CollectedTrace trace;
-    StableSort sorter{disk};
-    ScriptedPerson person;
-    Stage stage{disk, trace.log, sorter, person, lblCFG, bar};
     RunOptions options;
     RemarkLayout layout_1;
     RemarkLayout layout_2;
