@@ -19,20 +19,36 @@ LocalTime SystemClock::now() {
     return local_time(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now()));
 }
 
-LocalTime next_second(const LocalTime& time) {
+int SystemClock::minutes_ahead_of_utc() {
+    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    constexpr int seconds_in_minute = 60;
+    return static_cast<int>((seconds_of(local_time(now)) - now) / seconds_in_minute);
+}
+
+std::int64_t seconds_of(const LocalTime& time) {
     namespace chrono = std::chrono;
     const chrono::sys_days day{chrono::year{time.year} / time.month / time.day};
-    const auto later = day + chrono::hours{time.hour} + chrono::minutes{time.minute} +
-                       chrono::seconds{time.second + 1};
-    const auto new_day = chrono::floor<chrono::days>(later);
-    const chrono::year_month_day date{new_day};
-    const chrono::hh_mm_ss clock{later - new_day};
+    const chrono::sys_seconds moment = day + chrono::hours{time.hour} +
+                                       chrono::minutes{time.minute} + chrono::seconds{time.second};
+    return moment.time_since_epoch().count();
+}
+
+LocalTime calendar_time(std::int64_t seconds) {
+    namespace chrono = std::chrono;
+    const chrono::sys_seconds moment{chrono::seconds{seconds}};
+    const auto day = chrono::floor<chrono::days>(moment);
+    const chrono::year_month_day date{day};
+    const chrono::hh_mm_ss clock{moment - day};
     return {.year = static_cast<int>(date.year()),
             .month = static_cast<int>(static_cast<unsigned>(date.month())),
             .day = static_cast<int>(static_cast<unsigned>(date.day())),
             .hour = static_cast<int>(clock.hours().count()),
             .minute = static_cast<int>(clock.minutes().count()),
             .second = static_cast<int>(clock.seconds().count())};
+}
+
+LocalTime next_second(const LocalTime& time) {
+    return calendar_time(seconds_of(time) + 1);
 }
 
 std::string present_year(Clock& clock) {

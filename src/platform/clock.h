@@ -1,6 +1,7 @@
 // Owns the port to "now". Nothing else in the program asks the system for the time.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace veldrana {
@@ -23,12 +24,19 @@ class Clock {
     virtual ~Clock() = default;
 
     virtual LocalTime now() = 0;
+    // How far local time is ahead of UTC at the moment.
+    virtual int minutes_ahead_of_utc() = 0;
 };
 
 class SystemClock : public Clock {
   public:
     LocalTime now() override;
+    int minutes_ahead_of_utc() override;
 };
+
+// A count of seconds since the start of 1970 by the calendar, and back.
+LocalTime calendar_time(std::int64_t seconds);
+std::int64_t seconds_of(const LocalTime& time);
 
 // One second later, by the calendar.
 LocalTime next_second(const LocalTime& time);

@@ -43,6 +43,25 @@ class ByteSink {
     virtual void close() = 0;
 };
 
+// What a disk tells about a file or folder. Attributes are the sum of those that it has; times are
+// seconds since the start of 1970 in UTC.
+struct DiskEntry {
+    enum Attribute : unsigned {
+        read_only = 1,
+        hidden = 2,
+        system = 4,
+        directory = 16,
+        archive = 32,
+    };
+
+    std::string name;
+    std::uint64_t size = 0;
+    unsigned attributes = 0;
+    std::int64_t created = 0;
+    std::int64_t accessed = 0;
+    std::int64_t written = 0;
+};
+
 enum class WriteMode { replace, append };
 
 class Disk {
@@ -80,6 +99,9 @@ class Disk {
     // The names of the files that fit a path whose last piece may hold "?" and "*", in the order of
     // their characters; none if the folder is missing.
     virtual std::vector<std::string> names(std::string_view pattern) = 0;
+
+    // The same of files and folders, with what the disk tells about them.
+    virtual std::vector<DiskEntry> entries(std::string_view pattern) = 0;
 };
 
 // Deletes every file that fits the path, but not the one that is to be kept; says how many it

@@ -11,6 +11,7 @@
 #include "common/file_path.h"
 #include "common/run_time_error.h"
 #include "common/text.h"
+#include "platform/host_entry.h"
 #include "platform/local_time.h"
 #ifndef _WIN32
 #include <fcntl.h>
@@ -498,7 +499,7 @@ bool HostDisk::same_file(std::string_view one, std::string_view other) {
     return first && second && identity(*first) == identity(*second);
 }
 
-std::vector<std::string> HostDisk::names(std::string_view pattern) {
+std::vector<HostDisk::Found> HostDisk::matching(std::string_view pattern) const {
     const FilePath parts = split_path(pattern);
     // A place for the folder's own files: the name is not looked at.
     const std::optional<Place> place = place_of(std::string(parts.folder) + "x");
@@ -513,11 +514,34 @@ std::vector<std::string> HostDisk::names(std::string_view pattern) {
             folder = entry(folder, place->names[i]);
         }
     }
-    std::vector<std::string> names = names_in(folder);
-    std::erase_if(names, [&](const std::string& name) {
-        return !matches(name, parts.name) || is_folder(folder / from_text(name));
-    });
+    std::vector<Found> found;
+    for (std::string& name : names_in(folder)) {
+        if (matches(name, parts.name)) {
+            HostPath path = folder / from_text(name);
+            found.push_back({std::move(name), std::move(path)});
+        }
+    }
+    return found;
+}
+
+std::vector<std::string> HostDisk::names(std::string_view pattern) {
+    std::vector<std::string> names;
+    for (Found& found : matching(pattern)) {
+        if (!is_folder(found.path)) {
+            names.push_back(std::move(found.name));
+        }
+    }
     return names;
+}
+
+std::vector<DiskEntry> HostDisk::entries(std::string_view pattern) {
+    std::vector<DiskEntry> entries;
+    for (const Found& found : matching(pattern)) {
+        DiskEntry entry = describe(found.path);
+        entry.name = found.name;
+        entries.push_back(std::move(entry));
+    }
+    return entries;
 }
 
 }  // namespace veldrana

@@ -42,8 +42,16 @@ class HostDisk : public Disk {
     void protect(std::string_view path) override { protected_ = path; }
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
+    std::vector<DiskEntry> entries(std::string_view pattern) override;
 
   private:
+    // The files and folders that fit a pattern: names as text, and where they lie.
+    struct Found {
+        std::string name;
+        HostPath path;
+    };
+    std::vector<Found> matching(std::string_view pattern) const;
+
     // A path taken apart: the folder that its drive stands for, and the names behind it.
     struct Place {
         char letter;

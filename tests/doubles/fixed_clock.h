@@ -9,6 +9,8 @@ class FixedClock : public Clock {
   public:
     LocalTime time{2026, 5, 4, 13, 2, 9};
     LocalTime now() override { return time; }
+    // Japan's.
+    int minutes_ahead_of_utc() override { return 540; }
 };
 
 }  // namespace veldrana

@@ -205,6 +205,28 @@ std::vector<std::string> MemoryDisk::names(std::string_view pattern) {
     return names;
 }
 
+std::vector<DiskEntry> MemoryDisk::entries(std::string_view pattern) {
+    std::vector<DiskEntry> found;
+    for (const std::string& name : names(pattern)) {
+        const File& file = require(std::string(split_path(pattern).folder) + name);
+        const std::int64_t time = seconds_of(file.modified);
+        found.push_back({.name = name,
+                         .size = file.bytes.size(),
+                         .attributes = DiskEntry::archive,
+                         .created = time,
+                         .accessed = time,
+                         .written = time});
+    }
+    for (const std::string& folder : folders_) {
+        const std::string_view name = split_path(folder).name;
+        if (folder_key(folder) == folder_key(pattern) && !name.empty() &&
+            matches(name, split_path(pattern).name)) {
+            found.push_back({.name = std::string(name), .attributes = DiskEntry::directory});
+        }
+    }
+    return found;
+}
+
 class FailingDisk::Source : public ByteSource {
   public:
     Source(FailingDisk& disk, std::unique_ptr<ByteSource> source)
@@ -304,6 +326,11 @@ void FailingDisk::protect(std::string_view path) {
 
 bool FailingDisk::same_file(std::string_view one, std::string_view other) {
     return disk_.same_file(one, other);
+}
+
+std::vector<DiskEntry> FailingDisk::entries(std::string_view pattern) {
+    count_operation();
+    return disk_.entries(pattern);
 }
 
 std::vector<std::string> FailingDisk::names(std::string_view pattern) {

@@ -23,6 +23,7 @@ class MemoryDisk : public Disk {
     std::string bytes(std::string_view path) const;
     // The names of all files, full paths, sorted without regard to case.
     std::vector<std::string> files() const;
+    // Taken for UTC where entries are asked for, and for all three of their times.
     void set_modified(std::string_view path, const LocalTime& time);
 
     bool file_exists(std::string_view path) override;
@@ -37,6 +38,7 @@ class MemoryDisk : public Disk {
     void protect(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
+    std::vector<DiskEntry> entries(std::string_view pattern) override;
 
   private:
     struct File {
@@ -83,6 +85,7 @@ class FailingDisk : public Disk {
     void protect(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
+    std::vector<DiskEntry> entries(std::string_view pattern) override;
 
   private:
     class Source;
