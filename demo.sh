@@ -8,12 +8,14 @@ dev/install_packages.sh
 cmake --preset release >/dev/null
 cmake --build --preset release --target veldrana-batch | tail -n 1
 
-# The program works beside its logs, so the demo has its own copy of them.
+# The program works beside its logs and keeps its settings in its folder, so the demo has its own
+# copy of both. The copy is drive C: of the demo.
 demo=build/demo
 rm -rf "$demo"
-mkdir -p "$demo/veldrana"
-cp -r samples/logs "$demo/logs"
+mkdir -p "$demo"
+cp -r samples/logs samples/veldrana "$demo"
 log="$demo/logs/allja_sample.all"
+veldrana() { build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" "$@"; }
 
 # The first rows of a result file as a table.
 show() {
@@ -38,9 +40,12 @@ echo "The log, $(($(wc -l <"$log") - 1)) contacts as the contest logger wrote th
 iconv -f CP932 -t UTF-8 "$log" | sed -n '2,5p'
 
 echo
-echo "The counters of the run:"
-build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" \
-    --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" --set "Check1=1" --set "Check10=1" \
+echo "The first start makes the files of the settings and asks to look them over:"
+veldrana convert "$log" && exit 1
+
+echo
+echo "The second start goes on. The counters of the run:"
+veldrana --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" --set "Check1=1" --set "Check10=1" \
     --set "Check06=1" convert "$log"
 
 echo

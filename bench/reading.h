@@ -15,6 +15,7 @@ class NoPerson : public Person {
   public:
     Answer show(const MessageBox& /*box*/) override { return Answer::ok; }
     std::string choose_file(const FileDialog& /*dialog*/) override { return {}; }
+    void show_modal(WindowForm& form) override { form.window.visible = false; }
     void pending_events() override {}
 };
 

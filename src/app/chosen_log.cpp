@@ -1,5 +1,6 @@
 #include "app/chosen_log.h"
 
+#include "app/option_handlers.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
@@ -68,14 +69,19 @@ void show_former_outputs(Program& program) {
     screen.mnuDisp_ham_n.enabled = hamlog;
     screen.cmdDisp_Hamlog.enabled = hamlog;
     screen.tool_hamlog.enabled = hamlog;
-    const bool dup = disk.file_exists(program.log.dup);
-    screen.mnuDisp_dup.enabled = dup;
-    screen.tool_dup.enabled = dup;
+    show_former_dupe_list(program);
+}
+
+void show_former_dupe_list(Program& program) {
+    const bool there = program.disk.file_exists(program.log.dup);
+    program.screen.mnuDisp_dup.enabled = there;
+    program.screen.tool_dup.enabled = there;
 }
 
 void check_readiness(Program& program) {
     const bool chosen = has_backslash(program.log.in_name);
-    program.screen.enable_start(chosen);
+    const bool needs_dat = program.screen.Option02.index == 2;
+    program.screen.enable_start(chosen && (!needs_dat || has_dat(program)));
     if (chosen) {
         program.screen.lblInfo.caption = "";
     }

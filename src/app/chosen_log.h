@@ -13,7 +13,10 @@ void set_out_names(Program& program);
 // Enables the viewers whose files an earlier run has left.
 void show_former_outputs(Program& program);
 
-// Enables the start if a log is chosen.
+// The same for the dupe list alone.
+void show_former_dupe_list(Program& program);
+
+// Enables the start if a log is chosen, and a contest data file too where codes come from one.
 void check_readiness(Program& program);
 
 }  // namespace veldrana

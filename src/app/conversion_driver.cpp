@@ -5,8 +5,9 @@
 #include "app/chosen_log.h"
 #include "app/conversion_end.h"
 #include "app/open_text_log.h"
+#include "app/option_table.h"
+#include "app/remark_slot_settings.h"
 #include "app/replacement_run.h"
-#include "app/screen_options.h"
 #include "app/start_up.h"
 #include "app/work_files.h"
 #include "common/procedure.h"
@@ -33,9 +34,7 @@ void trace_run(Program& program) {
     TraceLog& trace = program.trace;
     trace.write(std::string(46, '*'));
     trace.write("Private sub cmdStart_Click()_0");
-    for (const std::string_view name : {"Veldrana_cfg.ini", "Veldrana_new.ini", "Veldrana.ini"}) {
-        trace_profile_file(program, name, "変換時");
-    }
+    trace_profile_files(program, "変換時");
     trace.write("-----------------------");
     trace.write("入力ファイル ：" + program.log.in_name);
     trace.write("入 力 件 数　：" + program.log.record_count + "件");
@@ -44,9 +43,14 @@ void trace_run(Program& program) {
 bool user_text_undecided(const Program& program) {
     const MainScreen& screen = program.screen;
     const bool none_chosen = !screen.Check4_A.value && !screen.Check4_B.value;
-    const bool both_known = !program.environment.Text_data_dir_A.empty() &&
-                            !program.environment.Text_data_dir_B.empty();
+    const OptionSettings& options = program.settings.options;
+    const bool both_known = !options.Text_data_dir_A.empty() && !options.Text_data_dir_B.empty();
     return screen.Check8.value && none_chosen && both_known;
+}
+
+// Sources of codes and of the log book's history that this version cannot ask.
+bool wants_missing_source(const MainScreen& screen) {
+    return screen.Option02.index > 0 || screen.Option07.index > 0;
 }
 
 void enable_results(Program& program) {
@@ -57,9 +61,7 @@ void enable_results(Program& program) {
     screen.cmdDisp_Hamlog.enabled = true;
     screen.tool_contest.enabled = true;
     screen.tool_hamlog.enabled = true;
-    const bool dup = program.disk.file_exists(program.log.dup);
-    screen.mnuDisp_dup.enabled = dup;
-    screen.tool_dup.enabled = dup;
+    show_former_dupe_list(program);
 }
 
 void henkan_at_2_t(Program& program, const RunOptions& options) {
@@ -207,16 +209,24 @@ bool cmdStart_1(Program& program) {
             program.person.show({.text = "どちらのユーザーテキストファイルか選択して下さい！"});
             return false;
         }
+        if (wants_missing_source(screen)) {
+            program.person.show({.text =
+                                     "コードの取得と No QSL の判定はまだ使えません。\n"
+                                     "「使用しない」と「この機能は無効にする」を選んで下さい。"});
+            return false;
+        }
 
         program.counters.clear_search();
         screen.lblIn_rec_count.caption = "";
         screen.lblMsg.caption = "";
         screen.ProgressBar1.visible = true;
         const Layouts layouts{Sort_2(program), Sort_3(program)};
+        keep_layouts(program.settings.options, layouts.rmks1, layouts.rmks2);
 
         screen.enable_start(false);
         screen.lblCFG.show("処 理 開 始", colours::green);
-        program.period.fill_empty();
+        program.settings.write_Veldrana_ini();
+        program.settings.fill_empty_period();
         if (program.run_mode == RunMode::replacement) {
             cmd_chikan(program);
             screen.enable_start(true);

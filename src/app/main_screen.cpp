@@ -1,94 +1,33 @@
 #include "app/main_screen.h"
 
-#include "common/text.h"
-
 namespace veldrana {
 
-MainScreen::MainScreen() {
-    for (Control* const control : controls()) {
-        if (auto* const box = dynamic_cast<CheckBox*>(control)) {
-            box->value.on_change = [this, box] { option_clicked(*box); };
-            option_clicked(*box);
-        } else if (auto* const group = dynamic_cast<OptionGroup*>(control)) {
-            group->index.on_change = [this, group] { option_clicked(*group); };
-            option_clicked(*group);
-        }
-    }
-    // What these would ask is not there yet: neither masters of codes nor the log book's history.
-    for (OptionGroup* const group : {&Option02, &Option07}) {
-        std::vector<OptionGroup::Button> buttons = group->buttons;
-        for (std::size_t i = 1; i < buttons.size(); ++i) {
-            buttons[i].enabled = false;
-        }
-        group->buttons = std::move(buttons);
-    }
-    Check2.value.on_change = [this] { Check2_Click(); };
-    Check3.value.on_change = [this] { Check3_Click(); };
-    Check23.value.on_change = [this] { Check23_Click(); };
-    for (TextBox* const mark : {&txtQSL_Q, &txtQSL_S}) {
-        mark->text.on_change = [mark] { keep_first_character(*mark); };
-    }
-    txtOp_name.text.on_change = [this] { txtOp_name_Change(); };
-    txtYYYY.text.on_change = [this] { txtYYYY_Change(); };
-
+MainScreen::MainScreen() : WindowForm("Veldrana") {
     for (std::size_t row = 0; row < counter_labels.size(); ++row) {
         MSFlexGrid1.set_text(row, 0, std::string(counter_labels[row]));
         MSFlexGrid1.set_fore_colour(row, 1, colours::blue);
         MSFlexGrid1.set_text(row, 2, "件");
     }
-    lblRmks1[0].caption = "ｺﾝﾃｽﾄ";
-    lblRmks2[0].caption = "Rmks2";
+    for (std::size_t i = 0; i < remark_item_count; ++i) {
+        Command1[i].caption = std::string(remark_item_names[i]);
+    }
     ProgressBar1.visible = false;
+    lblNo_qth_mas.visible = false;
 }
 
-void MainScreen::option_clicked(CheckBox& box) {
-    lblCFG.caption = "";
-    lblMsg.caption = "";
-    box.fore_colour = box.value ? colours::blue : colours::black;
-}
-
-void MainScreen::option_clicked(OptionGroup& group) {
-    lblCFG.caption = "";
-    lblMsg.caption = "";
-    std::vector<OptionGroup::Button> buttons = group.buttons;
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        const bool chosen = group.index == static_cast<int>(i);
-        buttons[i].fore_colour = chosen ? colours::blue : colours::black;
-    }
-    group.buttons = std::move(buttons);
-}
-
-// Each of the two takes the other off.
-void MainScreen::Check2_Click() {
-    option_clicked(Check2);
-    if (Check2.value) {
-        Check3.value = false;
+void MainScreen::enable_dat_choice(bool on) {
+    for (Control* const control :
+         std::initializer_list<Control*>{&Option03, &mnuOpenDat_mnu, &mnuOpenDat_semi,
+                                         &tool_dat_by_hand, &tool_dat_by_contest}) {
+        control->enabled = on;
     }
 }
 
-void MainScreen::Check3_Click() {
-    option_clicked(Check3);
-    if (Check3.value) {
-        Check2.value = false;
+void MainScreen::enable_dat_viewers(bool on) {
+    for (Control* const control :
+         std::initializer_list<Control*>{&mnuDisp_dat, &cmdDisp_dat, &cmdDisp_dat2, &tool_dat}) {
+        control->enabled = on;
     }
-}
-
-void MainScreen::Check23_Click() {
-    Check23.value = true;
-    option_clicked(Check23);
-}
-
-void MainScreen::keep_first_character(TextBox& box) {
-    box.text = std::string(left(box.text.get(), 1));
-}
-
-void MainScreen::txtOp_name_Change() {
-    Check15.fore_colour = colours::black;
-    txtOp_name.fore_colour = colours::black;
-}
-
-void MainScreen::txtYYYY_Change() {
-    txtYYYY.text = std::string(left(txtYYYY.text.get(), 4));
 }
 
 void MainScreen::enable_viewers(bool on) {

@@ -1,5 +1,5 @@
-// Owns the main screen as a form: the controls that a user meets, and what each option does to the
-// screen when it is clicked. What starts a run or opens a file is attached by app/program.h.
+// Owns the main screen as a form: the controls that a user meets. What options do when they are
+// clicked stands in app/option_handlers.h; what starts something is attached by app/program.h.
 #pragma once
 
 #include <array>
@@ -17,7 +17,11 @@ constexpr std::array<std::string_view, 10> counter_labels{
     " ＪＡＲＬ無検索数", " Text_data 取得数",
 };
 
-struct MainScreen : Form {
+// Which source of a field stands at which rank, the highest first; coloured while it is in use.
+using RankLabels = ControlArray<Label, 4>;
+using ItemButtons = ControlArray<ItemButton, remark_item_count>;
+
+struct MainScreen : WindowForm {
     MainScreen();
 
     // --- status ---
@@ -29,9 +33,21 @@ struct MainScreen : Form {
     Label lblIn_rec_count{*this, "lblIn_rec_count"};
     Label lblOut_name1{*this, "lblOut_name1"};  // _cjn.csv
     Label lblOut_name2{*this, "lblOut_name2"};  // _hjn.csv
+    Label lblDatName{*this, "lblDatName"};      // the contest data file
+    Label Label37{*this, "Label37"};            // the same on another page
+    Label lblNo_qth_mas{*this, "lblNo_qth_mas", "QTH_MAS．TXT は使用しない設定です。"};
+    Label lblMyCalls{*this, "lblMyCalls"};
+    Label lblPassWord{*this, "lblPassWord"};
+    // Two notes on the page of the member search.
+    Label lblJARL_menu{*this, "lblJARL_menu"};
+    Label lblJARL_after{*this, "lblJARL_after"};
+    RankLabels lblName{*this, "lblName"};
+    RankLabels lblCode{*this, "lblCode"};
+    RankLabels lblQth{*this, "lblQth"};
     ProgressBar ProgressBar1{*this, "ProgressBar1"};
     Grid MSFlexGrid1{*this, "MSFlexGrid1", counter_labels.size(), {1900, 800, 400}};
     TabControl SSTab1{*this, "SSTab1"};
+    TabControl SSTab2{*this, "SSTab2"};
 
     // --- options ---
     OptionGroup Option01{*this, "Option01", {"新 Hamlog.hdb"}, 0};
@@ -95,6 +111,10 @@ struct MainScreen : Form {
     CheckBox Check31{*this, "Check31", "N も検索"};
     CheckBox Check32{*this, "Check32", "N も書換"};
     CheckBox Check33{*this, "Check33", "無登録は N に書換"};
+    Frame Frame11{*this, "Frame11"};  // what contest data give
+    CommandButton cmdSet_UserTxt_A{*this, "cmdSet_UserTxt_A", "使用なら要 set"};
+    CommandButton cmdSet_UserTxt_B{*this, "cmdSet_UserTxt_B", "使用なら要 set"};
+    TextBox txtQSL_moji{*this, "txtQSL_moji"};
     TextBox txtQSL_Q{*this, "txtQSL_Q", "J"};
     TextBox txtQSL_S{*this, "txtQSL_S", "*"};
     TextBox txtRmks1{*this, "txtRmks1"};
@@ -105,18 +125,29 @@ struct MainScreen : Form {
     CommandButton cmdNow{*this, "cmdNow", "今年を取得"};
     RemarkSlots lblRmks1{*this, "lblRmks1"};
     RemarkSlots lblRmks2{*this, "lblRmks2"};
+    ItemButtons Command1{*this, "Command1"};
 
     // --- what starts something ---
     CommandButton cmdStart{*this, "cmdStart", "変　　換"};
     CommandButton cmdDisp_contest{*this, "cmdDisp_contest", "contestj_n"};
     CommandButton cmdDisp_Hamlog{*this, "cmdDisp_Hamlog", "hamlogja_n"};
     CommandButton cmdDisp_in{*this, "cmdDisp_in", "入力ﾌｧｲﾙ"};
+    CommandButton cmdDisp_dat{*this, "cmdDisp_dat", "dat"};
+    CommandButton cmdDisp_dat2{*this, "cmdDisp_dat2", "dat"};
+    CommandButton cmdDisp_Veldrana_cfg_ini{*this, "cmdDisp_Veldrana_cfg_ini", "Veldrana_cfg.ini"};
+    CommandButton cmdDisp_Veldrana_new_ini{*this, "cmdDisp_Veldrana_new_ini", "Veldrana_new.ini"};
+    CommandButton cmdCount{*this, "cmdCount", "件 数 カウント"};
+    CommandButton cmdDate{*this, "cmdDate", "期 間"};
 
     MenuEntry mnuOpen{*this, "mnuOpen", "zlogのﾃﾞｰﾀ ( ALL , TXT ) ﾌｧｲﾙを選ぶ"};
     MenuEntry mnuOpen_all_txt_set{*this, "mnuOpen_all_txt_set",
                                   "zlogのﾃﾞｰﾀ ( ALL , TXT ) を 指定フォルダから選ぶ"};
+    MenuEntry mnuOpenDat_mnu{*this, "mnuOpenDat_mnu", "個別DATﾌｧｲﾙを指定　（ 手動 ）"};
+    MenuEntry mnuOpenDat_semi{*this, "mnuOpenDat_semi", "個別DATﾌｧｲﾙを指定　（ 半自 ）"};
+    MenuEntry make_ini{*this, "make_ini", "ini 作成"};
     MenuEntry mnuOpen_con_n{*this, "mnuOpen_con_n", "contestj_n.csv を開く"};
     MenuEntry mnuDisp_in{*this, "mnuDisp_in", "入力ﾌｧｲﾙ"};
+    MenuEntry mnuDisp_dat{*this, "mnuDisp_dat", "dat"};
     MenuEntry mnuDisp_con_n{*this, "mnuDisp_con_n", "contestj_n.csv"};
     MenuEntry mnuDisp_ham_n{*this, "mnuDisp_ham_n", "hamlogja_n.csv"};
     MenuEntry mnuDisp_con_new{*this, "mnuDisp_con_new", "contestj_n.csv"};
@@ -126,6 +157,9 @@ struct MainScreen : Form {
                                           "Veldrana_Rireki.cfg"};
     MenuEntry mnuDisp_Veldrana_rmk1{*this, "mnuDisp_Veldrana_rmk1", "Veldrana.rmk1"};
     MenuEntry mnuDisp_Veldrana_rmk2{*this, "mnuDisp_Veldrana_rmk2", "Veldrana.rmk2"};
+    MenuEntry mnuDisp_QSOBank{*this, "mnuDisp_QSOBank", "QSOBank.txt"};
+    MenuEntry mnuCheck_dat{*this, "mnuCheck_dat", "dat調査"};
+    MenuEntry mnuCheck_dat_bunrui{*this, "mnuCheck_dat_bunrui", "分類"};
     MenuEntry mnuQSOBank{*this, "mnuQSOBank", "QSOBank"};
     MenuEntry mnuJARL{*this, "mnuJARL", "JARL"};
     MenuEntry mnuJARL_Web_OK{*this, "mnuJARL_Web_OK", "Web ブラウザ 表　示"};
@@ -136,18 +170,15 @@ struct MainScreen : Form {
     MenuEntry mnuJARL_Web_NO_hamj{*this, "mnuJARL_Web_NO_hamj", "hamlogja_n.csv"};
 
     ToolButton tool_open{*this, "開く"};
+    ToolButton tool_dat_by_hand{*this, "dat手動"};
+    ToolButton tool_dat_by_contest{*this, "dat半自"};
+    ToolButton tool_make_ini{*this, "INI作成"};
     ToolButton tool_convert{*this, "変換"};
+    ToolButton tool_dat{*this, "dat"};
     ToolButton tool_contest{*this, "contestj_n"};
     ToolButton tool_hamlog{*this, "hamlogja_n"};
     ToolButton tool_dup{*this, "＊．ｄｕｐ"};
     ToolButton tool_end{*this, "終了"};
-
-    void Check2_Click();
-    void Check3_Click();
-    // Cannot be switched off.
-    void Check23_Click();
-    void txtOp_name_Change();
-    void txtYYYY_Change();
 
     // Enable and disable what needs a chosen log.
     void disp_enable_t();
@@ -159,13 +190,12 @@ struct MainScreen : Form {
     // Both ways to start a run.
     void enable_start(bool on);
 
+    // Both ways to name a contest data file, and the choice between them.
+    void enable_dat_choice(bool on);
+    // What shows the contest data file.
+    void enable_dat_viewers(bool on);
+
   private:
-    // What every click on an option does: an old result text goes away, and the caption shows
-    // whether the option is on.
-    void option_clicked(CheckBox& box);
-    void option_clicked(OptionGroup& group);
-    // Keeps what is typed to its first character.
-    static void keep_first_character(TextBox& box);
     void enable_viewers(bool on);
 };
 

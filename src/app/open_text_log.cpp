@@ -70,7 +70,7 @@ void mnuOpen_Click(Program& program) {
 
 void mnuOpen_all_txt_set_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuOpen_all_txt_set_Click()", [&] {
-        const std::string& folder = program.environment.all_dir;
+        const std::string& folder = program.settings.environment.all_dir;
         open_text_log(program,
                       program.person.choose_file(
                           {.title = upper(folder) +

@@ -4,6 +4,8 @@
 
 #include "app/conversion_driver.h"
 #include "app/open_text_log.h"
+#include "app/option_handlers.h"
+#include "app/period_dialog.h"
 #include "app/program_end.h"
 #include "common/procedure.h"
 
@@ -15,7 +17,9 @@ Program::Program(const Ports& outside, std::string_view program_folder,
       clock(outside.clock),
       person(outside.person),
       sorter(outside.sorter),
-      paths(make_paths(program_folder, windows_folder)) {
+      services(outside.services),
+      paths(make_paths(program_folder, windows_folder)),
+      settings(disk, clock, paths.strPath) {
     const auto attach = [this](CommandButton& button, void (*handler)(Program&)) {
         button.Click = [this, handler] { event([this, handler] { handler(*this); }); };
     };
@@ -27,6 +31,13 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.tool_convert, cmdStart_Click);
     attach(screen.tool_end, End_Click);
     attach(screen.cmdNow, cmdNow_Click);
+    attach(screen.cmdDate, cmdDate_Click);
+    attach(screen.cmdSet_UserTxt_A, cmdSet_UserTxt_A_Click);
+    attach(screen.cmdSet_UserTxt_B, cmdSet_UserTxt_B_Click);
+    const auto write_options = [](Program& program) { program.settings.write_Veldrana_new_ini(); };
+    attach(screen.make_ini, write_options);
+    attach(screen.tool_make_ini, write_options);
+    attach_option_handlers(*this);
 }
 
 bool Program::event(const std::function<void()>& body) {

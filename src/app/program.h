@@ -16,11 +16,13 @@
 #include "output/output_names.h"
 #include "platform/clock.h"
 #include "platform/disk.h"
+#include "platform/services.h"
 #include "platform/stage.h"
+#include "qsl/history_times.h"
 #include "readers/input_kind.h"
 #include "rows/call_sign.h"
-#include "settings/environment_settings.h"
 #include "settings/remark_items.h"
+#include "settings/settings_store.h"
 
 namespace veldrana {
 
@@ -30,6 +32,7 @@ struct Ports {
     Clock& clock;
     Person& person;
     SortService& sorter;
+    Services& services;
 };
 
 // The log that was chosen, and the names that follow from it.
@@ -49,16 +52,19 @@ enum class RunMode {
     replacement,  // 置換: the "#" of a contest file become blanks
 };
 
-// The No QSL period, two days as yyyymmdd.
-struct Period {
-    std::string Start_date = "19600101";
-    std::string End_date;
+// What a start came to.
+struct Start {
+    enum Reached { nothing, environment_dialog, main_screen };
+    Reached reached = nothing;
+    // The settings are those of an old version, which the environment dialog has to renew.
+    bool old_version = false;
+};
 
-    // What a run takes for a day that is not set.
-    void fill_empty() {
-        Start_date = Start_date.empty() ? "19600101" : Start_date;
-        End_date = End_date.empty() ? "20100101" : End_date;
-    }
+// The splash, up until the main screen is there.
+struct ReadMaster : WindowForm {
+    ReadMaster() : WindowForm("read_master") {}
+
+    Label Label1{*this, "Label1", "　ファイルを読み込み中．．．．．"};
 };
 
 struct Program {
@@ -71,17 +77,22 @@ struct Program {
     Clock& clock;
     Person& person;
     SortService& sorter;
+    Services& services;
 
     Paths paths;
-    EnvironmentSettings environment;
+    SettingsStore settings;
+    HistoryTimes history_times;
     TraceLog trace;
+    ReadMaster read_master;
     MainScreen screen;
+    Start start;
+    // The short name of the log book's database; empty until it is known.
+    std::string hdb_name;
     ChosenLog log;
     Counters counters;
     RemarkUse remark_use;
     RemarkLengths remark_lengths;
     CallMemory call_memory;
-    Period period;
     RunMode run_mode = RunMode::conversion;
     // Lines that the operator filter let through; .TXT logs are counted apart, and the warning
     // about an operator without lines looks at the first count alone.

@@ -3,6 +3,7 @@
 #include "app/work_files.h"
 #include "common/text.h"
 #include "platform/text_file.h"
+#include "settings/window_positions.h"
 
 namespace veldrana {
 namespace {
@@ -52,10 +53,23 @@ void delete_uneventful_trace_log(Program& program) {
     program.disk.remove(path);
 }
 
+// One more run of the program came to its orderly end.
+void count_run(Program& program) {
+    constexpr int runs_between_notes = 10;
+    OptionSettings& options = program.settings.options;
+    const int runs = stored_number(options.exe_rec) + 1;
+    options.exe_rec = std::to_string(runs);
+    if (runs % runs_between_notes == 0) {
+        program.person.show({.text = "たまには使用した感想などのレポート下さいね！"});
+    }
+    program.settings.write_Veldrana_new_ini();
+}
+
 [[noreturn]] void end_cleanup(Program& program) {
     if (!program.keep_work_files) {
         delete_work_files(program);
     }
+    pass_over_failures([&] { count_run(program); });
     pass_over_failures([&] { program.trace.write("　*************  終了  *********"); });
     pass_over_failures([&] { program.trace.close(); });
     pass_over_failures([&] { delete_uneventful_trace_log(program); });
@@ -69,6 +83,8 @@ void End_Click(Program& program) {
         program.trace.write("");
         program.trace.write("Private Sub End_Click()");
     });
+    pass_over_failures(
+        [&] { save_position(program.disk, program.paths.strPath, program.screen.window); });
     program.screen.lblCFG.large_letters = true;
     program.screen.lblCFG.show("　　終了処理中．．．", colours::green);
     program.person.pending_events();

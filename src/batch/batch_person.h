@@ -23,6 +23,8 @@ class BatchPerson : public Person {
 
     Answer show(const MessageBox& box) override;
     std::string choose_file(const FileDialog& dialog) override;
+    // Nobody fills in a form: it is closed as it is.
+    void show_modal(WindowForm& form) override { form.window.visible = false; }
     void pending_events() override {}
 
   private:

@@ -18,7 +18,7 @@ class BatchProgram {
           disk_(options.drives, options.home),
           person_(output.messages, options.answer),
           sorter_(disk_),
-          program_({disk_, clock_, person_, sorter_}, disk_.program_path(options.home),
+          program_({disk_, clock_, person_, sorter_, services_}, disk_.program_path(options.home),
                    environment_variable("WINDIR")) {
         program_.keep_work_files = options.keep_work;
         if (output.show_progress) {
@@ -38,9 +38,13 @@ class BatchProgram {
         return true;
     }
 
-    // False if the program has ended meanwhile.
+    // False if the program has ended meanwhile, or waits for its environment.
     bool start() {
-        return program_.event([this] { Main(program_); });
+        program_.event([this] { Main(program_); });
+        if (program_.start.reached == Start::environment_dialog) {
+            tell_what_the_environment_lacks();
+        }
+        return program_.start.reached == Start::main_screen;
     }
 
     // False if a control does not take its value.
@@ -92,6 +96,24 @@ class BatchProgram {
     }
 
   private:
+    // In the place of the dialog, which nobody could fill in here.
+    void tell_what_the_environment_lacks() {
+        const SettingsStore& settings = program_.settings;
+        std::ostream& messages = output_.messages;
+        messages << "環境設定の確認が必要です: " << settings.path(cfg_ini) << '\n';
+        if (program_.start.old_version) {
+            messages << "  古い版の設定です: version=" << settings.version << '\n';
+        }
+        const std::vector<std::string> missing = missing_entries(settings.environment);
+        for (const std::string& key : missing) {
+            messages << "  設定されていません: " << key << '\n';
+        }
+        if (!program_.start.old_version && missing.empty()) {
+            messages << "  初めての起動で設定ファイルを作成しました。もう一度起動して下さい。\n";
+        }
+        messages << std::flush;
+    }
+
     void show_progress() {
         const ProgressBar& bar = program_.screen.ProgressBar1;
         const std::size_t percent = bar.value * 100 / bar.maximum;
@@ -108,6 +130,7 @@ class BatchProgram {
     SystemClock clock_;
     BatchPerson person_;
     StableSort sorter_;
+    OwnServices services_;
     Program program_;
     std::size_t shown_percent_ = 0;
 };

@@ -36,6 +36,11 @@ bool Control::enter(std::string_view /*value*/) {
     return false;
 }
 
+Window::Window(Form& form, std::string name, std::string title)
+    : Control(form, std::move(name)), caption(*this, std::move(title)) {
+    visible = false;
+}
+
 Label::Label(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)), caption(*this, std::move(text)) {}
 
@@ -82,11 +87,33 @@ OptionGroup::OptionGroup(Form& form, std::string name, const std::vector<std::st
 
 bool OptionGroup::enter(std::string_view text) {
     const std::optional<int> chosen = index_below(text, buttons.get().size());
-    if (!chosen || !buttons.get()[static_cast<std::size_t>(*chosen)].enabled) {
-        return false;
+    if (chosen) {
+        index = *chosen;
     }
-    index = *chosen;
-    return true;
+    return chosen.has_value();
+}
+
+void OptionGroup::set_caption(std::size_t button, std::string caption) {
+    change(button, [&](Button& one) { one.caption = std::move(caption); });
+}
+
+void OptionGroup::enable(std::size_t button, bool on) {
+    change(button, [on](Button& one) { one.enabled = on; });
+}
+
+void OptionGroup::change(std::size_t button, const std::function<void(Button&)>& change_one) {
+    if (button >= buttons.get().size()) {
+        throw RunTimeError(Failure::subscript);
+    }
+    std::vector<Button> changed = buttons;
+    change_one(changed[button]);
+    buttons = std::move(changed);
+}
+
+void OptionGroup::enable_all(bool on) {
+    for (std::size_t i = 0; i < buttons.get().size(); ++i) {
+        enable(i, on);
+    }
 }
 
 TextBox::TextBox(Form& form, std::string name, std::string initial)
@@ -99,6 +126,13 @@ bool TextBox::enter(std::string_view value) {
 
 ListBox::ListBox(Form& form, std::string name)
     : Control(form, std::move(name)), rows(*this, {}), index(*this, none) {}
+
+void ListBox::select(int row) {
+    if (row != none && (row < 0 || static_cast<std::size_t>(row) >= rows.get().size())) {
+        throw RunTimeError(Failure::invalid_call);
+    }
+    index = row;
+}
 
 bool ListBox::enter(std::string_view text) {
     const std::optional<int> chosen = index_below(text, rows.get().size());

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -25,6 +26,7 @@ constexpr Colour black{0x000000};
 constexpr Colour green{0x008000};
 constexpr Colour blue{0xFF0000};
 constexpr Colour red{0x0000FF};
+constexpr Colour grey{0x808080};
 }  // namespace colours
 
 class Control;
@@ -39,6 +41,12 @@ class Property {
     ~Property() = default;
 
     Property& operator=(T value);
+    // Changes a large value where it stands; counts as a change.
+    template <class Change>
+    void modify(Change&& change) {
+        change(value_);
+        tell();
+    }
     const T& get() const noexcept { return value_; }
     operator const T&() const noexcept { return value_; }  // NOLINT: reads like the value it holds
     friend bool operator==(const Property& property, const T& value) {
@@ -49,6 +57,8 @@ class Property {
     std::function<void()> on_change;
 
   private:
+    void tell();
+
     Control& owner_;
     T value_;
 };
@@ -101,15 +111,53 @@ template <class T>
 Property<T>& Property<T>::operator=(T value) {
     if (!(value == value_)) {
         value_ = std::move(value);
-        if (owner_.listener) {
-            owner_.listener();
-        }
-        if (on_change) {
-            on_change();
-        }
+        tell();
     }
     return *this;
 }
+
+template <class T>
+void Property<T>::tell() {
+    if (owner_.listener) {
+        owner_.listener();
+    }
+    if (on_change) {
+        on_change();
+    }
+}
+
+// Where a window stands, in the unit of the screen, and how: the rectangle is that of the window's
+// normal state, also while it is maximised.
+struct WindowPlacement {
+    enum State { normal = 0, minimised = 1, maximised = 2 };
+    int state = normal;
+    float left = 0;
+    float top = 0;
+    float width = 0;
+    float height = 0;
+    friend bool operator==(const WindowPlacement&, const WindowPlacement&) = default;
+};
+
+// The window of a form; visible while it is shown.
+class Window : public Control {
+  public:
+    Window(Form& form, std::string name, std::string title = {});
+    Property<std::string> caption;
+    // Nothing until a view or a file has told it.
+    Property<std::optional<WindowPlacement>> placement{*this, std::nullopt};
+};
+
+// A form with a window of its own.
+class WindowForm : public Form {
+  public:
+    explicit WindowForm(std::string name, std::string title = {})
+        : window(*this, std::move(name), std::move(title)) {}
+    WindowForm(const WindowForm&) = delete;
+    WindowForm& operator=(const WindowForm&) = delete;
+    virtual ~WindowForm() = default;
+
+    Window window;
+};
 
 class Label : public Control {
   public:
@@ -175,8 +223,16 @@ class OptionGroup : public Control {
     Property<std::vector<Button>> buttons;
     Property<int> index;  // of the chosen button; on_change is the group's Click
 
-    // The index of a button that is there and enabled.
+    // Change one button; one that is not there is failure 9.
+    void set_caption(std::size_t button, std::string caption);
+    void enable(std::size_t button, bool on);
+    void enable_all(bool on);
+
+    // The index of a button that is there.
     bool enter(std::string_view text) override;
+
+  private:
+    void change(std::size_t button, const std::function<void(Button&)>& change_one);
 };
 
 class TextBox : public Control {
@@ -194,6 +250,11 @@ class ListBox : public Control {
     ListBox(Form& form, std::string name);
     Property<std::vector<std::string>> rows;
     Property<int> index;  // of the chosen row; on_change is its Click
+    // How far the view can be scrolled sideways, in pixels; 0: not at all.
+    Property<int> horizontal_extent{*this, 0};
+
+    // Chooses a row, or none; a row that is not there is failure 5.
+    void select(int row);
 
     // The index of a row that is there.
     bool enter(std::string_view text) override;
@@ -220,23 +281,26 @@ class TabControl : public Control {
 };
 
 // Controls of one name, told apart by an index in parentheses: "lblRmks1(0)".
-template <class T, std::size_t size>
+template <class T, std::size_t count>
 class ControlArray {
   public:
     ControlArray(Form& form, const std::string& name)
-        : ControlArray(form, name, std::make_index_sequence<size>()) {}
+        : ControlArray(form, name, std::make_index_sequence<count>()) {}
 
     T& operator[](std::size_t index) noexcept { return controls_[index]; }
     const T& operator[](std::size_t index) const noexcept { return controls_[index]; }
+    static constexpr std::size_t size() noexcept { return count; }
     auto begin() noexcept { return controls_.begin(); }
     auto end() noexcept { return controls_.end(); }
+    auto begin() const noexcept { return controls_.begin(); }
+    auto end() const noexcept { return controls_.end(); }
 
   private:
     template <std::size_t... index>
     ControlArray(Form& form, const std::string& name, std::index_sequence<index...> /*all*/)
         : controls_{T(form, name + "(" + std::to_string(index) + ")")...} {}
 
-    std::array<T, size> controls_;
+    std::array<T, count> controls_;
 };
 
 // A table of texts, each cell with its colour. Cells are set by row and column from 0; one that is

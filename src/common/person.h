@@ -6,6 +6,9 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "common/controls.h"
 
 namespace veldrana {
 
@@ -43,11 +46,15 @@ class Person {
     // The full path of the chosen file as the program writes paths; empty if none was chosen.
     virtual std::string choose_file(const FileDialog& dialog) = 0;
 
+    // Shows a form until its window is no longer visible. Who has no screen answers it by rule.
+    virtual void show_modal(WindowForm& form) = 0;
+
     // Lets pending events of the screen run.
     virtual void pending_events() = 0;
 };
 
 // The lines of a box with an empty line between each and the next.
 std::string spaced_lines(std::initializer_list<std::string_view> lines);
+std::string spaced_lines(const std::vector<std::string>& lines);
 
 }  // namespace veldrana

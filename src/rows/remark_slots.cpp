@@ -9,6 +9,9 @@ bool RemarkSlot::enter(std::string_view value) {
         return false;
     }
     caption = std::string(value);
+    if (item_entered) {
+        item_entered();
+    }
     return true;
 }
 

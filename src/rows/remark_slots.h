@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,19 @@ class RemarkSlot : public Label {
   public:
     RemarkSlot(Form& form, std::string name) : Label(form, std::move(name)) {}
 
+    // What the form does when an item was put in, or taken out, by hand.
+    std::function<void()> item_entered;
+
     bool enter(std::string_view value) override;
+};
+
+// A button that an item is dragged from.
+class ItemButton : public CommandButton {
+  public:
+    ItemButton(Form& form, std::string name) : CommandButton(form, std::move(name), {}) {}
+
+    // Whether the item stands in a slot; shown by the button's own colour.
+    Property<bool> in_use{*this, false};
 };
 
 using RemarkSlots = ControlArray<RemarkSlot, remark_slot_count>;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "settings/settings_store.h"
+
 namespace veldrana {
 
 std::optional<RemarkItem> remark_item_named(std::string_view name) {
@@ -17,12 +19,25 @@ std::size_t RemarkLengths::sum() const noexcept {
     return std::accumulate(lengths_.begin(), lengths_.end(), std::size_t{0});
 }
 
-std::string set_Rmk_Len(const RemarkLengths& lengths, std::string_view name) {
+namespace {
+
+// As the lengths know the items by their screen names.
+std::optional<RemarkItem> item_with_length(std::string_view name) {
     const std::optional<RemarkItem> item = remark_item_named(name);
-    if (!item || *item == RemarkItem::memo_equals) {
-        return "0";
+    return item == RemarkItem::memo_equals ? std::nullopt : item;
+}
+
+}  // namespace
+
+std::string set_Rmk_Len(const RemarkLengths& lengths, std::string_view name) {
+    const std::optional<RemarkItem> item = item_with_length(name);
+    return item ? std::to_string(lengths.of(*item)) : "0";
+}
+
+void get_Rmk_Len_(RemarkLengths& lengths, std::string_view name, std::string_view length) {
+    if (const std::optional<RemarkItem> item = item_with_length(name)) {
+        lengths.set(*item, static_cast<std::size_t>(std::max(stored_number(length), 0)));
     }
-    return std::to_string(lengths.of(*item));
 }
 
 }  // namespace veldrana

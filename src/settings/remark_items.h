@@ -48,6 +48,10 @@ class RemarkLengths {
 // has not ("momo="), so for this item and for names of no item it is "0"; kept, layouts rest on it.
 std::string set_Rmk_Len(const RemarkLengths& lengths, std::string_view name);
 
+// Keeps a length under an item's screen name; the same look-up, so that of "memo=" is not kept. A
+// text that is no number, or a negative one, is 0.
+void get_Rmk_Len_(RemarkLengths& lengths, std::string_view name, std::string_view length);
+
 // Which items have stood in a slot at the start of some run since the program started: marks are
 // set and never taken back, so that readers go on extracting what was wanted once.
 class RemarkUse {

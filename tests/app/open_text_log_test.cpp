@@ -150,7 +150,7 @@ TEST_F(OpenTextLog, DialogsOfferTextLogs) {
     kit.open("");
     EXPECT_EQ(kit.person.dialogs[0].filter, "ﾃｷｽﾄﾌｧｲﾙ ( *.txt , *.all )|*.txt;*.all");
     EXPECT_TRUE(kit.person.dialogs[0].must_exist);
-    kit.program->environment.all_dir = "c:\\zlog\\";
+    kit.program->settings.environment.all_dir = "c:\\zlog\\";
     screen.tool_open.press();
     EXPECT_EQ(kit.person.dialogs[1].title,
               "C:\\ZLOG\\　の ＊．ａｌｌ　または　＊．ｔｘｔ　 ファイルを  開く ....");

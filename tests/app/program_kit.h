@@ -9,21 +9,58 @@
 #include "app/start_up.h"
 #include "common/text.h"
 #include "platform/code_page_932.h"
+#include "platform/profile_file.h"
 #include "tests/doubles/fixed_clock.h"
 #include "tests/doubles/memory_disk.h"
 #include "tests/doubles/scripted_person.h"
 
 namespace veldrana {
 
+// Services that are there unless a test takes one away.
+class ScriptedServices : public Services {
+  public:
+    std::optional<Service> missing;
+    bool is_there(Service service) override { return service != missing; }
+};
+
+// What lies in the program's folder before the start.
+enum class Installed { bare, ready };
+
+// The environment of a station with everything set.
+inline constexpr std::string_view ready_environment =
+    "[Veldrana_cfg.ini]\r\nversion=5.30\r\nzlog_dat_dir=C:\\zLog\\\r\n"
+    "name_mas_dir=使用しない\r\nqth_mas_dir=使用しない\r\nyubin_mas_dir=使用しない\r\n"
+    "hamlog_hdb_dir=C:\\Hamlog\\Hamlog.hdb\r\nhamlog_hdb_2_dir=C:\\Hamlog\\Hamlog.hdb\r\n"
+    "zlo_dir=C:\\log\\\r\nall_dir=C:\\log\\\r\nMyCalls=JA1ZZZ\r\nPassWords=secret\r\n"
+    "No_QSL_moji=N\r\nNo_QSL_moji_set_flag=1\r\n";
+
 struct ProgramKit {
-    explicit ProgramKit(std::string_view program_folder = "C:\\veldrana") {
+    // A ready folder has the options of a new one and has been started before.
+    explicit ProgramKit(std::string_view program_folder = "C:\\veldrana",
+                        Installed installed = Installed::ready) {
         memory.put_folder(program_folder);
-        program.emplace(Ports{disk, clock, person, sorter}, program_folder, "C:\\WINDOWS");
+        program.emplace(Ports{disk, clock, person, sorter, services}, program_folder,
+                        "C:\\WINDOWS");
+        if (installed == Installed::ready) {
+            SettingsStore options(memory, clock, program->paths.strPath);
+            options.set_default_options();
+            options.write_Veldrana_new_ini();
+            put_text(program->paths.strPath + "Veldrana_cfg.ini", ready_environment);
+        }
     }
 
+    // Whether the start came to the main screen.
     bool start() {
-        return program->event([this] { Main(*program); });
+        program->event([this] { Main(*program); });
+        return program->start.reached == Start::main_screen;
     }
+
+    // A value of a profile file as it lies on the disk.
+    std::string stored(std::string_view file, std::string_view section, std::string_view key) {
+        return ProfileFile(memory, program->paths.strPath + std::string(file)).value(section, key);
+    }
+    // The same of the option file's main section.
+    std::string stored_option(std::string_view key) { return stored(new_ini, new_ini, key); }
 
     // Presses the entry that asks for a file, and answers with this one.
     void open(std::string_view path) {
@@ -56,6 +93,7 @@ struct ProgramKit {
     FixedClock clock;
     ScriptedPerson person;
     StableSort sorter{disk};
+    ScriptedServices services;
     std::optional<Program> program;
 };
 

@@ -28,8 +28,22 @@ const std::string ten_counters =
 class BatchProgram : public testing::Test {
   protected:
     BatchProgram() {
-        fs::create_directories(home);
+        install();
         write_bytes(log, to_code_page(sample_all_log));
+    }
+
+    // A program folder with everything set, as a start before has left it.
+    void install() {
+        fs::copy(fs::path(VELDRANA_SOURCE_DIR) / "tests/golden/veldrana", home,
+                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    }
+
+    // The log book's database lies there; its drive is that of the scratch files.
+    void set_log_book(const std::string& path) {
+        const std::string bytes = read_bytes(home / "Veldrana_cfg.ini");
+        write_bytes(
+            home / "Veldrana_cfg.ini",
+            replace_all(bytes, "hamlog_hdb_dir=C:\\hamlog\\Hamlog.hdb", "hamlog_hdb_dir=" + path));
     }
 
     ProcessResult run(std::vector<std::string> arguments, RunAs user = RunAs::same_user) {
@@ -81,6 +95,7 @@ TEST_F(BatchProgram, PathsBelowADriveTakeItsLetter) {
 }
 
 TEST_F(BatchProgram, WithoutADriveEverythingLiesOnZ) {
+    set_log_book("Z:\\hamlog\\Hamlog.hdb");
     const ProcessResult ended =
         run_batch({"--home", home.string(), "--keep-work", "convert", log.string()});
     EXPECT_EQ(ended.status, 0) << ended.messages;
@@ -190,7 +205,8 @@ TEST_F(BatchProgram, ReadOnlyProgramFolderEndsInTheReportWithoutALog) {
     chmod(home.c_str(), 0755);
     EXPECT_EQ(ended.status, 3) << ended.messages;
     EXPECT_THAT(ended.messages, HasSubstr("エラー発生 ：　70\n"));
-    EXPECT_TRUE(fs::is_empty(home));
+    EXPECT_FALSE(fs::exists(home / "Temp_Files"));
+    EXPECT_FALSE(fs::exists(home / "Error_Log"));
 }
 
 TEST_F(BatchProgram, FullDiskEndsInTheReportWith61) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,9 @@ class ScriptedPerson : public Person {
     std::deque<Answer> answers;
     // Files chosen in order; when they run out, none.
     std::deque<std::string> files;
+
+    // What is done with forms, in order; when they run out, a form is closed as it is.
+    std::deque<std::function<void(WindowForm&)>> forms;
 
     std::vector<MessageBox> boxes;
     std::vector<FileDialog> dialogs;
@@ -38,6 +42,15 @@ class ScriptedPerson : public Person {
         std::string file = files.front();
         files.pop_front();
         return file;
+    }
+
+    void show_modal(WindowForm& form) override {
+        if (!forms.empty()) {
+            const auto use = forms.front();
+            forms.pop_front();
+            use(form);
+        }
+        form.window.visible = false;
     }
 
     void pending_events() override { ++times_let_through; }

@@ -17,6 +17,9 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path cases_folder = fs::path(VELDRANA_SOURCE_DIR) / "tests/golden/cases";
+// What lies in the program's folder unless a case brings its own: the files of a station that has
+// everything set and has started before, with the options of a first start.
+const fs::path program_folder = fs::path(VELDRANA_SOURCE_DIR) / "tests/golden/veldrana";
 
 struct GoldenCase {
     std::string purpose;
@@ -118,7 +121,8 @@ TEST_P(Golden, EndsAsExpected) {
     const ScratchFolder scratch;
     const fs::path drive = scratch.path() / "drive";
     fs::copy(folder / "input", drive, fs::copy_options::recursive);
-    fs::create_directories(drive / "veldrana");
+    fs::copy(program_folder, drive / "veldrana",
+             fs::copy_options::recursive | fs::copy_options::skip_existing);
     std::vector<std::string> arguments{"--drive", "C=" + drive.string(), "--home",
                                        (drive / "veldrana").string(), "--keep-work"};
     for (const std::string& setting : golden.settings) {

@@ -1,0 +1,20 @@
+// Owns the load of the main screen: it takes up the settings, and its controls agree with them when
+// it is shown.
+#pragma once
+
+#include "app/program.h"
+
+namespace veldrana {
+
+// Loads the main screen, shows it in the place of the splash, and puts the chosen tabs on top.
+void show_main_screen(Program& program);
+
+// Derives from the path of the log book's database its short name, as the screen shows it, and the
+// drive whose root holds the scratch files. Without a path nothing changes.
+void get_hdb_name_bas(Program& program);
+
+// Makes the menu of the survey tools agree with the settings.
+void chk_disp_top_sstab(MainScreen& screen);
+void chk_disp_top_sstab_2(MainScreen& screen);
+
+}  // namespace veldrana

@@ -1,0 +1,389 @@
+#include "app/option_handlers.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "app/chosen_log.h"
+#include "app/option_table.h"
+#include "app/remark_slot_settings.h"
+#include "app/source_ranks.h"
+#include "common/file_path.h"
+#include "common/procedure.h"
+#include "common/text.h"
+#include "platform/text_file.h"
+
+namespace veldrana {
+namespace {
+
+using Setting = std::string OptionSettings::*;
+
+void store(Program& program, Setting setting, std::string value) {
+    std::string& kept = program.settings.options.*setting;
+    if (kept != value) {
+        kept = std::move(value);
+        program.settings.write_Veldrana_new_ini();
+    }
+}
+
+// An old result text goes away with any click on an option.
+void clear_result_text(MainScreen& screen) {
+    screen.lblCFG.caption = "";
+    screen.lblMsg.caption = "";
+}
+
+// --- what every option does ---
+
+void show_and_store(Program& program, const SwitchOption& option) {
+    CheckBox& box = program.screen.*option.control;
+    clear_result_text(program.screen);
+    box.fore_colour = box.value ? colours::blue : colours::black;
+    if (option.setting != nullptr) {
+        store(program, option.setting, box.value ? "1" : "0");
+    }
+}
+
+void show_and_store(Program& program, const GroupOption& option) {
+    OptionGroup& group = program.screen.*option.control;
+    clear_result_text(program.screen);
+    std::vector<OptionGroup::Button> buttons = group.buttons;
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        const bool chosen = group.index == static_cast<int>(i);
+        buttons[i].fore_colour = chosen ? colours::blue : colours::black;
+    }
+    group.buttons = std::move(buttons);
+    store(program, option.setting, std::to_string(group.index));
+}
+
+// --- what some do besides ---
+
+void Check14_Click(Program& program) {
+    MainScreen& screen = program.screen;
+    for (CheckBox* const box :
+         {&screen.Check4, &screen.Check5, &screen.Check6, &screen.Check7, &screen.Check16}) {
+        box->enabled = screen.Check14.value.get();
+    }
+}
+
+void Check8_Click(Program& program) {
+    MainScreen& screen = program.screen;
+    for (CheckBox* const box :
+         {&screen.Check9, &screen.Check11, &screen.Check12, &screen.Check13, &screen.Check17}) {
+        box->enabled = screen.Check8.value.get();
+    }
+    const bool known_A = !program.settings.options.Text_data_dir_A.empty();
+    const bool known_B = !program.settings.options.Text_data_dir_B.empty();
+    if (screen.Check8.value && known_A != known_B) {
+        screen.Check4_A.value = known_A;
+        screen.Check4_B.value = known_B;
+    }
+}
+
+// One of the two user texts: its box and button, the other's box, and the setting of its path.
+struct UserText {
+    CheckBox MainScreen::*box;
+    CheckBox MainScreen::*other_box;
+    CommandButton MainScreen::*button;
+    Setting path;
+};
+constexpr UserText user_text_A{&MainScreen::Check4_A, &MainScreen::Check4_B,
+                               &MainScreen::cmdSet_UserTxt_A, &OptionSettings::Text_data_dir_A};
+constexpr UserText user_text_B{&MainScreen::Check4_B, &MainScreen::Check4_A,
+                               &MainScreen::cmdSet_UserTxt_B, &OptionSettings::Text_data_dir_B};
+
+void take_back(Program& program, const UserText& text) {
+    MainScreen& screen = program.screen;
+    (screen.*text.box).value = false;
+    if (!(screen.*text.other_box).value) {
+        screen.Check8.value = false;
+    }
+}
+
+void choose_user_text(Program& program, const UserText& text) {
+    MainScreen& screen = program.screen;
+    if (!(screen.*text.box).value) {
+        return;
+    }
+    const std::string path = program.settings.options.*text.path;
+    if (path.empty()) {
+        program.person.show({.text = "ユーザーテキストファイルが指定されていません。"});
+        take_back(program, text);
+    } else if (!program.disk.file_exists(path)) {
+        program.person.show({.text = path + " が有りません！　設定内容をクリアします。　"
+                                            "必要なら再設定して下さい。"});
+        store(program, text.path, "");
+        (screen.*text.button).caption = user_text_caption("");
+        take_back(program, text);
+    } else {
+        (screen.*text.other_box).value = false;
+    }
+}
+
+// Each of the two takes the other off.
+void exclude(const CheckBox& clicked, CheckBox& other) {
+    if (clicked.value) {
+        other.value = false;
+    }
+}
+
+void Op05_Chk(MainScreen& screen) {
+    const bool together = screen.Option05.index == 1;
+    screen.Option09.enable_all(together);
+    screen.Check08.enabled = together;
+}
+
+void Op07_Chk(MainScreen& screen) {
+    const bool in_use = screen.Option07.index != 0;
+    screen.Option01.enable(0, in_use);
+    screen.Check19.enabled = in_use;
+    screen.Check20.enabled = in_use;
+    if (in_use) {
+        screen.Option01.index = 0;
+    }
+}
+
+// What an option does beyond showing and storing itself.
+void run_cascade(Program& program, const CheckBox& box) {
+    MainScreen& screen = program.screen;
+    if (&box == &screen.Check14) {
+        Check14_Click(program);
+    } else if (&box == &screen.Check8) {
+        Check8_Click(program);
+    } else if (&box == &screen.Check4_A) {
+        choose_user_text(program, user_text_A);
+    } else if (&box == &screen.Check4_B) {
+        choose_user_text(program, user_text_B);
+    } else if (&box == &screen.Check2) {
+        exclude(screen.Check2, screen.Check3);
+    } else if (&box == &screen.Check3) {
+        exclude(screen.Check3, screen.Check2);
+    }
+    colour_ranks(program);
+}
+
+void run_cascade(Program& program, const OptionGroup& group) {
+    MainScreen& screen = program.screen;
+    OptionSettings& options = program.settings.options;
+    if (&group == &screen.Option02) {
+        Op02_Chk(program);
+    } else if (&group == &screen.Option05) {
+        Op05_Chk(screen);
+    } else if (&group == &screen.Option07) {
+        Op07_Chk(screen);
+    } else if (&group == &screen.Option08) {
+        program.settings.write_Veldrana_ini();
+    } else if (&group == &screen.Option2) {
+        store(program, &OptionSettings::disp_top_SSTab, options.Option2);
+    } else if (&group == &screen.Option22) {
+        store(program, &OptionSettings::disp_top_SSTab_2, options.Option22);
+    }
+    colour_ranks(program);
+}
+
+void option_clicked(Program& program, const SwitchOption& option) {
+    CheckBox& box = program.screen.*option.control;
+    if (&box == &program.screen.Check23) {
+        box.value = true;  // cannot be switched off
+    }
+    show_and_store(program, option);
+    run_cascade(program, box);
+}
+
+void option_clicked(Program& program, const GroupOption& option) {
+    if ((program.screen.*option.control).index == OptionGroup::none) {
+        return;  // nobody clicked: a run took the choice away
+    }
+    show_and_store(program, option);
+    run_cascade(program, program.screen.*option.control);
+}
+
+// --- texts ---
+
+void keep_first_character(Program& program, TextBox& box, Setting setting) {
+    box.text = std::string(left(box.text.get(), 1));
+    store(program, setting, box.text);
+}
+
+void txtYYYY_Change(Program& program) {
+    TextBox& box = program.screen.txtYYYY;
+    box.text = std::string(left(box.text.get(), 4));
+    store(program, &OptionSettings::YYYY, box.text);
+}
+
+void txtOp_name_Change(MainScreen& screen) {
+    screen.Check15.fore_colour = colours::black;
+    screen.txtOp_name.fore_colour = colours::black;
+}
+
+// --- from what is stored to the controls ---
+
+// A number that names no button chooses the first.
+void select_stored(Program& program, const GroupOption& option) {
+    OptionGroup& group = program.screen.*option.control;
+    const int stored = stored_number(program.settings.options.*option.setting);
+    const bool known = stored >= 0 && static_cast<std::size_t>(stored) < group.buttons.get().size();
+    group.index = known ? stored : 0;
+}
+
+void select_stored(Program& program, const SwitchOption& option) {
+    const std::string& stored = program.settings.options.*option.setting;
+    (program.screen.*option.control).value = stored_number(stored) != 0;
+}
+
+template <class Options>
+auto find_option(const MainScreen& screen, const Options& options, std::string_view name) {
+    return std::find_if(options.begin(), options.end(), [&](const auto& option) {
+        return (screen.*option.control).name() == name;
+    });
+}
+
+void select_stored(Program& program, std::string_view name) {
+    const auto group = find_option(program.screen, group_options(), name);
+    if (group != group_options().end()) {
+        select_stored(program, *group);
+        return;
+    }
+    select_stored(program, *find_option(program.screen, switch_options(), name));
+}
+
+// The second line of a user text of the log book holds this.
+constexpr std::string_view user_text_heading = "ｺｰﾙｻｲﾝ|__氏  名___|";
+
+bool is_user_text(Program& program, const std::string& path) {
+    TextInput file = program.stage().open_input(path);
+    std::string_view line;
+    return file.next_line(line) && file.next_line(line) &&
+           line.find(user_text_heading) != std::string_view::npos;
+}
+
+void set_user_text(Program& program, const UserText& text) {
+    const std::string path =
+        program.person.choose_file({.filter = "ﾕｰｻﾞｰﾃｷｽﾄﾌｧｲﾙ ( *.txt )|*.txt"});
+    if (path.empty()) {
+        return;
+    }
+    if (!is_user_text(program, path)) {
+        program.person.show({.text = "Ｈａｍｌｏｇのユーザー・テキスト形式ではありません！"});
+        (program.screen.*text.box).value = false;
+        return;
+    }
+    (program.screen.*text.button).caption = user_text_caption(path);
+    store(program, text.path, path);
+}
+
+}  // namespace
+
+void attach_option_handlers(Program& program) {
+    MainScreen& screen = program.screen;
+    for (const GroupOption& option : group_options()) {
+        (screen.*option.control).index.on_change = [&program, option] {
+            program.event([&] { option_clicked(program, option); });
+        };
+    }
+    for (const SwitchOption& option : switch_options()) {
+        (screen.*option.control).value.on_change = [&program, option] {
+            program.event([&] { option_clicked(program, option); });
+        };
+    }
+    const auto on_change = [&program](TextBox& box, auto handler) {
+        box.text.on_change = [&program, handler] { program.event(handler); };
+    };
+    on_change(screen.txtQSL_Q, [&program] {
+        keep_first_character(program, program.screen.txtQSL_Q, &OptionSettings::QSL_Q);
+    });
+    on_change(screen.txtQSL_S, [&program] {
+        keep_first_character(program, program.screen.txtQSL_S, &OptionSettings::QSL_S);
+    });
+    on_change(screen.txtQSL_moji, [&program] {
+        keep_first_character(program, program.screen.txtQSL_moji, &OptionSettings::QSL_moji);
+    });
+    on_change(screen.txtYYYY, [&program] { txtYYYY_Change(program); });
+    on_change(screen.txtOp_name, [&program] { txtOp_name_Change(program.screen); });
+    for (RemarkSlots* const slots : {&screen.lblRmks1, &screen.lblRmks2}) {
+        for (RemarkSlot& slot : *slots) {
+            slot.item_entered = [&program] { program.event([&] { store_slots(program); }); };
+        }
+    }
+}
+
+void ini_read_2(Program& program) {
+    program.trace.write("ini_read_2");
+    constexpr std::array<std::string_view, 41> order{
+        "Option01", "Option07", "Option02", "Option04", "Check10",  "Check06", "Option1",
+        "Check01",  "Check15",  "Check16",  "Check17",  "Check18",  "Check19", "Check20",
+        "Option05", "Option06", "Check21",  "Check03",  "Option09", "Check08", "Option03",
+        "Option08", "Check1",   "Check2",   "Check3",   "Check4",   "Check5",  "Check6",
+        "Check7",   "Check07",  "Check14",  "Option2",  "Option4",  "Check8",  "Check9",
+        "Check11",  "Check12",  "Check13",  "Check23",  "Check4_A", "Check4_B"};
+    for (const std::string_view name : order) {
+        select_stored(program, name);
+    }
+}
+
+void Option08_set(Program& program) {
+    select_stored(program, "Option08");
+}
+
+void run_option_handlers(Program& program) {
+    const auto click = [&program](std::string_view name) {
+        option_clicked(program, *find_option(program.screen, group_options(), name));
+    };
+    select_stored(program, "Option1");
+    for (const std::string_view name : {"Option1", "Option02", "Option03", "Option04"}) {
+        click(name);
+    }
+    select_stored(program, "Option05");
+    for (const std::string_view name :
+         {"Option05", "Option06", "Option07", "Option08", "Option09"}) {
+        click(name);
+    }
+    for (const SwitchOption& option : switch_options()) {
+        option_clicked(program, option);
+    }
+    for (const std::string_view name : {"Option2", "Option22", "Option4"}) {
+        click(name);
+    }
+}
+
+void Op02_Chk(Program& program) {
+    MainScreen& screen = program.screen;
+    const bool from_source = screen.Option02.index != 0;
+    const bool from_dat = screen.Option02.index == 2;
+    screen.Frame11.enabled = from_source;
+    screen.Option04.enabled = from_source;
+    screen.enable_dat_choice(from_dat);
+    screen.enable_dat_viewers(from_dat && has_dat(program));
+    if (from_dat && !has_dat(program)) {
+        ask_for_dat(screen);
+    }
+    check_readiness(program);
+}
+
+bool has_dat(const Program& program) {
+    return has_backslash(program.settings.set_dat_in_name);
+}
+
+void ask_for_dat(MainScreen& screen) {
+    for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
+        label->show("ﾒﾆｭｰからDATﾌｧｲﾙを指定して下さい。", colours::red);
+    }
+}
+
+std::string user_text_caption(std::string_view path) {
+    if (path.empty()) {
+        return "使用なら要 set";
+    }
+    return replace_all(replace_all(split_path(path).name, ".txt", ""), ".TXT", "");
+}
+
+void cmdSet_UserTxt_A_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub cmdSet_UserTxt_A_Click()",
+                    [&] { set_user_text(program, user_text_A); });
+}
+
+void cmdSet_UserTxt_B_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub cmdSet_UserTxt_B_Click()",
+                    [&] { set_user_text(program, user_text_B); });
+}
+
+}  // namespace veldrana
