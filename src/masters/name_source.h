@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/stage.h"
+
 namespace veldrana {
 
 // What a master holds on a station; what it has no column for is empty.
@@ -23,7 +25,11 @@ class NameSource {
     NameSource& operator=(const NameSource&) = delete;
     virtual ~NameSource() = default;
 
-    // For a call base; all empty if the master does not know it.
+    // Runs once at the start of a pass over the contacts, when the pass has opened its files: a
+    // master that is read anew for each pass reads its file here.
+    virtual void prepare(const Stage& stage);
+
+    // For a call base, without regard to case; all empty if the master does not know it.
     virtual StationData find(std::string_view call_base) = 0;
 };
 

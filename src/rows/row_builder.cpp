@@ -204,6 +204,17 @@ void RowBuilder::add_text_data_remark() {
     remark = trim(on_the_left ? addition + " " + remark : remark + " " + addition);
 }
 
+// The masters that are read anew for each pass, in the order in which they are read.
+void prepare_masters(const Stage& stage, const RowRequest& request) {
+    const StationSources& sources = request.sources;
+    if (sources.qth_mas != nullptr && request.options.Check14) {
+        sources.qth_mas->prepare(stage);
+    }
+    if (sources.text_data != nullptr && request.options.Check8) {
+        sources.text_data->prepare(stage);
+    }
+}
+
 }  // namespace
 
 std::size_t build_rows(const Stage& stage, const RowRequest& request, CallMemory& memory) {
@@ -214,6 +225,7 @@ std::size_t build_rows(const Stage& stage, const RowRequest& request, CallMemory
     RowReader coded(input, coded_line::count);
     RowWriter writer(stage, request.drive_path);
     RowBuilder builder(request, memory);
+    prepare_masters(stage, request);
     do {
         coded.read();
         writer.write(coded, builder.build(coded));

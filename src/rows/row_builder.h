@@ -31,8 +31,8 @@ struct RowRequest {
 };
 
 // Reads zlog_2.txt, which must hold a contact (else failure 62), and writes Sort-in.dat and the two
-// row files. Returns how often a contact was marked as needing no card; one that two rules mark
-// counts twice.
+// row files. The masters of its sources that are read anew for each pass are read here. Returns how
+// often a contact was marked as needing no card; one that two rules mark counts twice.
 std::size_t build_rows(const Stage& stage, const RowRequest& request, CallMemory& memory);
 
 }  // namespace veldrana

@@ -2,6 +2,7 @@
 #include "rows/row_builder.h"
 
 #include <array>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -13,10 +14,13 @@
 
 #include "common/quoted_fields.h"
 #include "common/run_time_error.h"
+#include "masters/run_masters.h"
 #include "platform/code_page_932.h"
 #include "readers/coded_line.h"
 #include "rows/row_formats.h"
+#include "tests/doubles/fixed_clock.h"
 #include "tests/doubles/stage_fixture.h"
+#include "tests/masters/master_lines.h"
 
 namespace veldrana {
 namespace {
@@ -30,6 +34,9 @@ class FewStations : public NameSource {
   public:
     std::map<std::string, StationData> stations;
     std::vector<std::string> asked;
+    std::function<void(const Stage&)> on_prepare = [](const Stage&) {};
+
+    void prepare(const Stage& stage) override { on_prepare(stage); }
 
     StationData find(std::string_view call_base) override {
         asked.emplace_back(call_base);
@@ -585,6 +592,99 @@ TEST_F(RowBuilderTest, NothingStaysFromTheContactBefore) {
     EXPECT_THAT(contest(1),
                 ElementsAre("JR8YYX", "", "", "", "7.012", "CW ", "", "J", "*", "", "210801",
                             "0218U", "599", "589", "", "", "", "JR8YYX", "JR8YYX"));
+}
+
+TEST_F(RowBuilderTest, MastersOfAPassAreReadWhenItsFilesAreOpenQthMasFirst) {
+    use_all_sources();
+    const auto noted = [](std::string line) {
+        return [line](const Stage& at) { at.trace.write(line); };
+    };
+    name_mas.on_prepare = noted("name_mas");
+    qth_mas.on_prepare = noted("qth_mas");
+    text_data.on_prepare = noted("text_data");
+    build({Coded{}, Coded{}});
+    ASSERT_THAT(trace.lines, SizeIs(7));
+    EXPECT_EQ(trace.lines[4], "Open R:\\temp_h_n.csv For Output As #f_o");
+    EXPECT_EQ(trace.lines[5], "qth_mas");
+    EXPECT_EQ(trace.lines[6], "text_data");
+    trace.lines.clear();
+    options.Check14 = options.Check8 = false;
+    build({Coded{}});
+    EXPECT_THAT(trace.lines, SizeIs(5));
+}
+
+// The masters themselves, each with the same station in it.
+class RowsFromMasters : public RowBuilderTest {
+  protected:
+    RowsFromMasters() {
+        options.Check03 = options.Check14 = options.Check7 = true;
+        options.Check8 = options.Check4_A = options.Check11 = options.Check12 = true;
+        put_master(disk, "C:\\mas\\name_mas.txt",
+                   {line_of({{2, "JA1ABC"}, {8, "山田"}, {20, "1004"}, {26, "八王子市"}})});
+        put_master(
+            disk, "C:\\mas\\qth_mas.txt",
+            {line_of({{2, "JA1ABC"}, {8, "鈴木"}, {20, "1101"}, {26, "横浜市"}, {54, "PM95TK"}})});
+        put_master(
+            disk, "C:\\mas\\a.txt",
+            {line_of({{2, "JA1ABC"}, {8, "佐藤"}, {20, "1201"}, {26, "千葉市"}, {54, "友人"}})});
+        settings.environment.name_mas_dir = "C:\\mas\\";
+        settings.environment.qth_mas_dir = "C:\\mas\\qth_mas.txt";
+        settings.options.Text_data_dir_A = "C:\\mas\\a.txt";
+    }
+
+    void build_from_masters(const std::vector<Coded>& contacts) {
+        NameMas loaded;
+        loaded.read_name_mas_txt(stage, settings.environment.name_mas_dir);
+        RunMasters masters(options, settings, loaded, hits);
+        sources = masters.sources();
+        build(contacts);
+    }
+
+    FixedClock clock;
+    SettingsStore settings{disk, clock, "R:\\"};
+    std::size_t hits = 0;
+};
+
+TEST_F(RowsFromMasters, DefaultListsTakeNameMasForTheNameAndQthMasForTheSquare) {
+    build_from_masters({station("JA1ABC"), station("JR8YYX")});
+    EXPECT_EQ(contest(0).at(contest_row::name), "山田");
+    EXPECT_EQ(contest(0).at(contest_row::code), "1004");
+    EXPECT_EQ(contest(0).at(contest_row::qth), "八王子市");
+    EXPECT_EQ(contest(0).at(contest_row::gl), "PM95TK");
+    EXPECT_EQ(contest(0).at(contest_row::rmks1), "友人");
+    EXPECT_EQ(contest(1).at(contest_row::name), "");
+    EXPECT_EQ(contest(1).at(contest_row::gl), "");
+    EXPECT_EQ(hits, 1U);
+}
+
+TEST_F(RowsFromMasters, PortableStationIsFoundByItsHomeCall) {
+    options.Check16 = true;
+    options.name_yusen_jun = options.code_yusen_jun = options.qth_yusen_jun = "qth_mas";
+    Coded contact = station("JA1ABC", "1");
+    contact.call = contact.call_as_logged = "JA1ABC/1";
+    build_from_masters({contact});
+    EXPECT_EQ(contest().at(contest_row::name), "鈴木");
+    EXPECT_EQ(contest().at(contest_row::code), "");
+    EXPECT_EQ(contest().at(contest_row::qth), "");
+    EXPECT_EQ(contest().at(contest_row::gl), "");
+}
+
+TEST_F(RowsFromMasters, TextDataLastOfFourIsNotLookedAt) {
+    options.Check03 = options.Check14 = false;
+    build_from_masters({station("JA1ABC")});
+    EXPECT_EQ(contest().at(contest_row::name), "");
+    options.name_yusen_jun = "dat_mas,name_mas,Text_data,qth_mas";
+    build_from_masters({station("JA1ABC")});
+    EXPECT_EQ(contest().at(contest_row::name), "佐藤");
+}
+
+TEST_F(RowsFromMasters, MasterThatIsMissingEndsThePass) {
+    disk.remove("C:\\mas\\qth_mas.txt");
+    EXPECT_THAT([this] { build_from_masters({station("JA1ABC")}); },
+                testing::Throws<RunTimeError>(
+                    testing::Property(&RunTimeError::failure, Failure::file_not_found)));
+    EXPECT_THAT(error_lines(),
+                ElementsAre("エラー発生  Private Sub read_qth_from_qth_mas() ：　53"));
 }
 
 // --- the six-character rule ---

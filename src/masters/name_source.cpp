@@ -1,0 +1,7 @@
+#include "masters/name_source.h"
+
+namespace veldrana {
+
+void NameSource::prepare(const Stage& /*stage*/) {}
+
+}  // namespace veldrana
