@@ -5,11 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "platform/stage.h"
+
 namespace veldrana {
 
 struct CodeAndPlace {
-    std::string code;
-    std::string qth;
+    std::string code = {};
+    std::string qth = {};
+    friend bool operator==(const CodeAndPlace&, const CodeAndPlace&) = default;
 };
 
 class CodeSource {
@@ -19,8 +22,12 @@ class CodeSource {
     CodeSource& operator=(const CodeSource&) = delete;
     virtual ~CodeSource() = default;
 
-    // For a number as it was received; both empty if the master does not know it.
-    virtual CodeAndPlace find(std::string_view number_received) = 0;
+    // Runs once at the start of a code stage, when the stage has opened its files: a master that is
+    // not loaded yet reads its file here.
+    virtual void prepare(const Stage& stage);
+
+    // For a number as the stage takes it from the log; both empty if the master does not know it.
+    virtual CodeAndPlace find(std::string_view number) = 0;
 };
 
 }  // namespace veldrana
