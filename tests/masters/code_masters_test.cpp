@@ -44,8 +44,8 @@ class CodeMasters : public StageFixture {
 // --- hl_code.mas ---
 
 TEST_F(CodeMasters, HlCodeGivesCodeAndQthOfAKey) {
-    EXPECT_EQ(in_hl_code("1004", {record("1004", "1004", "東京都八王子市")}),
-              (CodeAndPlace{"1004", "東京都八王子市"}));
+    EXPECT_EQ(in_hl_code("1004", {record("1004", "1004", "東京都武蔵野市")}),
+              (CodeAndPlace{"1004", "東京都武蔵野市"}));
 }
 
 TEST_F(CodeMasters, HlCodeColumnsBeginAndEndWhereTheyShould) {
@@ -85,13 +85,13 @@ TEST_F(CodeMasters, HlCodeWithoutItsHeadingsReadsPastTheEnd) {
 }
 
 TEST_F(CodeMasters, HlCodeIsLoadedOnce) {
-    put_master(disk, hl_code_path, {record("1004", "1004", "八王子市")});
+    put_master(disk, hl_code_path, {record("1004", "1004", "武蔵野市")});
     HlCodeMas master(hl_code_path);
     EXPECT_EQ(master.find("1004"), CodeAndPlace{});
     master.prepare(stage);
     put_master(disk, hl_code_path, {});
     master.prepare(stage);
-    EXPECT_EQ(master.find("1004").qth, "八王子市");
+    EXPECT_EQ(master.find("1004").qth, "武蔵野市");
     EXPECT_THAT(trace.lines, ElementsAre("Private Sub read_hl_code_mas()",
                                          "Open C:\\veldrana\\hl_code.mas For Input As #f_i"));
 }
@@ -118,8 +118,8 @@ TEST_F(CodeMasters, PostalCodeOfSevenDigitsIsSearchedByItsLastSixInTheFileOfItsF
 }
 
 TEST_F(CodeMasters, ShortNumberIsItsOwnKey) {
-    put_yubin('1', {record("1004", "1004", "八王子市"), record("004", "9999", "wrong")});
-    EXPECT_EQ(in_yubin("1004").qth, "八王子市");
+    put_yubin('1', {record("1004", "1004", "武蔵野市"), record("004", "9999", "wrong")});
+    EXPECT_EQ(in_yubin("1004").qth, "武蔵野市");
 }
 
 TEST_F(CodeMasters, YubinColumnsBeginAndEndWhereTheyShould) {

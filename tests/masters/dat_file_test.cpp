@@ -53,15 +53,15 @@ TEST_F(DatTableTest, LayoutGoesByTheKindOfTheFile) {
 }
 
 TEST_F(DatTableTest, FieldsAreTrimmed) {
-    load("x.dat", {line_of({{1, "1004"}, {12, "八王子市"}})});
-    EXPECT_EQ(table.find_exact("1004"), (CodeAndPlace{"1004", "八王子市"}));
-    load("x.mst", {line_of({{1, "HC"}, {8, "1004"}, {16, "八王子市"}})});
-    EXPECT_EQ(table.find_exact("HC"), (CodeAndPlace{"1004", "八王子市"}));
+    load("x.dat", {line_of({{1, "1004"}, {12, "武蔵野市"}})});
+    EXPECT_EQ(table.find_exact("1004"), (CodeAndPlace{"1004", "武蔵野市"}));
+    load("x.mst", {line_of({{1, "HC"}, {8, "1004"}, {16, "武蔵野市"}})});
+    EXPECT_EQ(table.find_exact("HC"), (CodeAndPlace{"1004", "武蔵野市"}));
 }
 
 TEST_F(DatTableTest, Byte14OfAMstIsNotRead) {
-    load("x.mst", {line_of({{1, "HC"}, {7, "1004"}, {14, "x八王子市"}})});
-    EXPECT_EQ(table.find_exact("HC"), (CodeAndPlace{"1004", "八王子市"}));
+    load("x.mst", {line_of({{1, "HC"}, {7, "1004"}, {14, "x武蔵野市"}})});
+    EXPECT_EQ(table.find_exact("HC"), (CodeAndPlace{"1004", "武蔵野市"}));
 }
 
 TEST_F(DatTableTest, KeysOf11BytesShareTheCodeOfTheirFirstSeven) {
@@ -71,8 +71,8 @@ TEST_F(DatTableTest, KeysOf11BytesShareTheCodeOfTheirFirstSeven) {
 }
 
 TEST_F(DatTableTest, LineIsCutAtItsFirstNul) {
-    load("x.dat", {line_of({{1, "1004"}, {12, "八王子市"}}) + std::string("\0rest\0", 6)});
-    EXPECT_EQ(table.find_exact("1004").qth, "八王子市");
+    load("x.dat", {line_of({{1, "1004"}, {12, "武蔵野市"}}) + std::string("\0rest\0", 6)});
+    EXPECT_EQ(table.find_exact("1004").qth, "武蔵野市");
 }
 
 TEST_F(DatTableTest, HeadingIsNoRow) {
@@ -83,7 +83,7 @@ TEST_F(DatTableTest, HeadingIsNoRow) {
 }
 
 TEST_F(DatTableTest, FileOfAnotherExtensionHasNoRows) {
-    load("x.txt", {"1004       八王子市"});
+    load("x.txt", {"1004       武蔵野市"});
     EXPECT_EQ(table.find_exact("1004"), CodeAndPlace{});
 }
 
@@ -123,24 +123,24 @@ TEST_F(DatTableTest, PrefixSearchTakesTwoCharactersOrThreeBehindWGAndC) {
 }
 
 TEST_F(DatTableTest, Row4501IsOutOfRange) {
-    std::vector<std::string> rows(4500, "1004       八王子市");
+    std::vector<std::string> rows(4500, "1004       武蔵野市");
     load("x.dat", rows);
-    EXPECT_EQ(table.find_exact("1004").qth, "八王子市");
-    rows.emplace_back("1005       立川市");
+    EXPECT_EQ(table.find_exact("1004").qth, "武蔵野市");
+    rows.emplace_back("1005       三鷹市");
     EXPECT_EQ(failure_of([&] { load("x.dat", rows); }), 9);
 }
 
 TEST_F(DatTableTest, LoadReplacesTheRows) {
-    load("x.dat", {"1004       八王子市"});
-    load("x.dat", {"1005       立川市"});
+    load("x.dat", {"1004       武蔵野市"});
+    load("x.dat", {"1005       三鷹市"});
     EXPECT_EQ(table.find_exact("1004"), CodeAndPlace{});
-    EXPECT_EQ(table.find_exact("1005").qth, "立川市");
+    EXPECT_EQ(table.find_exact("1005").qth, "三鷹市");
 }
 
 TEST_F(DatTableTest, LineBufferHoldsTheLastLineThatWasRead) {
     EXPECT_EQ(table.line_buffer(), "");
-    load("x.dat", {"1004       八王子市", "1005       立川市"});
-    EXPECT_EQ(table.line_buffer(), "1005       立川市");
+    load("x.dat", {"1004       武蔵野市", "1005       三鷹市"});
+    EXPECT_EQ(table.line_buffer(), "1005       三鷹市");
     load("x.dat", {});
     EXPECT_EQ(table.line_buffer(), "non-aja TEST.DAT");
 }

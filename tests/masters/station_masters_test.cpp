@@ -24,7 +24,7 @@ constexpr const char* user_text_path = "C:\\hamlog\\friends.txt";
 
 // A record whose every column holds something else.
 const std::string full_record = line_of(
-    {{2, "JA1ABC"}, {8, "山田太郎"}, {20, "1004"}, {26, "東京都八王子市"}, {54, "via JA1ZZZ"}});
+    {{2, "JA1ABC"}, {8, "山田太郎"}, {20, "1004"}, {26, "東京都武蔵野市"}, {54, "via JA1ZZZ"}});
 
 class StationMasters : public StageFixture {
   protected:
@@ -58,7 +58,7 @@ void expect_data(const StationData& found, const StationData& expected) {
 TEST_F(StationMasters, NameMasHasNameCodeQthAndRemarks) {
     expect_data(in_name_mas("JA1ABC", {full_record}), {.name = "山田太郎",
                                                        .code = "1004",
-                                                       .qth = "東京都八王子市",
+                                                       .qth = "東京都武蔵野市",
                                                        .gl = "",
                                                        .rmks = "via JA1ZZZ"});
 }
@@ -69,17 +69,17 @@ TEST_F(StationMasters, UserTextHasTheColumnsOfNameMas) {
     master.prepare(stage);
     expect_data(master.find("JA1ABC"), {.name = "山田太郎",
                                         .code = "1004",
-                                        .qth = "東京都八王子市",
+                                        .qth = "東京都武蔵野市",
                                         .gl = "",
                                         .rmks = "via JA1ZZZ"});
 }
 
 TEST_F(StationMasters, QthMasHasGlInBytes54To59AndQthInBytes26To53) {
     const std::string record = line_of(
-        {{2, "JA1ABC"}, {8, "山田"}, {20, "1004"}, {26, "東京都八王子市"}, {54, "PM95QPxx"}});
+        {{2, "JA1ABC"}, {8, "山田"}, {20, "1004"}, {26, "東京都武蔵野市"}, {54, "PM95QPxx"}});
     expect_data(
         in_qth_mas("JA1ABC", {record}),
-        {.name = "山田", .code = "1004", .qth = "東京都八王子市", .gl = "PM95QP", .rmks = ""});
+        {.name = "山田", .code = "1004", .qth = "東京都武蔵野市", .gl = "PM95QP", .rmks = ""});
 }
 
 TEST_F(StationMasters, EveryColumnBeginsAndEndsWhereItShould) {
@@ -101,11 +101,11 @@ TEST_F(StationMasters, EveryColumnBeginsAndEndsWhereItShould) {
 
 TEST_F(StationMasters, NameAcrossBytes19And20KeepsItsWholeCharactersAndTheCodeStartsBehind) {
     // Eleven bytes in front of 郎, which would take bytes 19 and 20: it belongs to neither column.
-    const std::string record = line_of({{2, "JA1ABC"}, {8, "aaaaaaaaaaa郎1004"}, {26, "八王子市"}});
+    const std::string record = line_of({{2, "JA1ABC"}, {8, "aaaaaaaaaaa郎1004"}, {26, "武蔵野市"}});
     const StationData found = in_name_mas("JA1ABC", {record});
     EXPECT_EQ(found.name, "aaaaaaaaaaa");
     EXPECT_EQ(found.code, "1004");
-    EXPECT_EQ(found.qth, "八王子市");
+    EXPECT_EQ(found.qth, "武蔵野市");
 }
 
 TEST_F(StationMasters, LineTooShortForAFieldHasItEmpty) {

@@ -325,9 +325,9 @@ TEST_F(HlCodeStage, ForeignStationsAreLookedUpToo) {
 }
 
 TEST_F(HlCodeStage, NothingIsInheritedFromTheContactBefore) {
-    master.numbers["1004"] = {"1004", "八王子市"};
+    master.numbers["1004"] = {"1004", "武蔵野市"};
     run({contact_with("JA1ABC", "1004"), contact_with("JA1ABC", "9999")});
-    EXPECT_THAT(codes(), ElementsAre("1004/八王子市", "/"));
+    EXPECT_THAT(codes(), ElementsAre("1004/武蔵野市", "/"));
 }
 
 TEST_F(HlCodeStage, NumberIsPassedOnAsItStood) {

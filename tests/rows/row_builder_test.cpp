@@ -620,7 +620,7 @@ class RowsFromMasters : public RowBuilderTest {
         options.Check03 = options.Check14 = options.Check7 = true;
         options.Check8 = options.Check4_A = options.Check11 = options.Check12 = true;
         put_master(disk, "C:\\mas\\name_mas.txt",
-                   {line_of({{2, "JA1ABC"}, {8, "山田"}, {20, "1004"}, {26, "八王子市"}})});
+                   {line_of({{2, "JA1ABC"}, {8, "山田"}, {20, "1004"}, {26, "武蔵野市"}})});
         put_master(
             disk, "C:\\mas\\qth_mas.txt",
             {line_of({{2, "JA1ABC"}, {8, "鈴木"}, {20, "1101"}, {26, "横浜市"}, {54, "PM95TK"}})});
@@ -649,7 +649,7 @@ TEST_F(RowsFromMasters, DefaultListsTakeNameMasForTheNameAndQthMasForTheSquare) 
     build_from_masters({station("JA1ABC"), station("JR8YYX")});
     EXPECT_EQ(contest(0).at(contest_row::name), "山田");
     EXPECT_EQ(contest(0).at(contest_row::code), "1004");
-    EXPECT_EQ(contest(0).at(contest_row::qth), "八王子市");
+    EXPECT_EQ(contest(0).at(contest_row::qth), "武蔵野市");
     EXPECT_EQ(contest(0).at(contest_row::gl), "PM95TK");
     EXPECT_EQ(contest(0).at(contest_row::rmks1), "友人");
     EXPECT_EQ(contest(1).at(contest_row::name), "");
