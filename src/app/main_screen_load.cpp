@@ -9,6 +9,7 @@
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
+#include "masters/master_checks.h"
 #include "readers/log_line.h"
 #include "settings/frmDate.h"
 #include "settings/option_defaults.h"
@@ -137,11 +138,6 @@ void Form_Load_3(Program& program) {
 
 // --- Form_Load_4 ---
 
-void restore_tabs(MainScreen& screen, const OptionSettings& options) {
-    screen.Option2.enter(options.disp_top_SSTab);
-    screen.Option22.enter(options.disp_top_SSTab_2);
-}
-
 void show_member_search(Program& program) {
     MainScreen& screen = program.screen;
     OptionSettings& options = program.settings.options;
@@ -167,7 +163,8 @@ void Form_Load_4(Program& program) {
     enter_procedure(program.trace, "Private Sub Form_Load_4()", [&] {
         MainScreen& screen = program.screen;
         SettingsStore& settings = program.settings;
-        restore_tabs(screen, settings.options);
+        chk_disp_top_sstab(screen);
+        chk_disp_top_sstab_2(screen);
         show_member_search(program);
         screen.cmdDisp_Veldrana_cfg_ini.tool_tip = settings.path(cfg_ini);
         screen.cmdDisp_Veldrana_new_ini.tool_tip = settings.path(new_ini);

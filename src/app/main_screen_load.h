@@ -13,7 +13,7 @@ void show_main_screen(Program& program);
 // drive whose root holds the scratch files. Without a path nothing changes.
 void get_hdb_name_bas(Program& program);
 
-// Makes the menu of the survey tools agree with the settings.
+// Put the chosen tab of the upper and of the lower tab control on top.
 void chk_disp_top_sstab(MainScreen& screen);
 void chk_disp_top_sstab_2(MainScreen& screen);
 

@@ -11,7 +11,7 @@
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
-#include "platform/text_file.h"
+#include "masters/master_checks.h"
 
 namespace veldrana {
 namespace {
@@ -104,15 +104,13 @@ void choose_user_text(Program& program, const UserText& text) {
     if (!(screen.*text.box).value) {
         return;
     }
-    const std::string path = program.settings.options.*text.path;
+    std::string path = program.settings.options.*text.path;
     if (path.empty()) {
         program.person.show({.text = "ユーザーテキストファイルが指定されていません。"});
         take_back(program, text);
-    } else if (!program.disk.file_exists(path)) {
-        program.person.show({.text = path + " が有りません！　設定内容をクリアします。　"
-                                            "必要なら再設定して下さい。"});
-        store(program, text.path, "");
-        (screen.*text.button).caption = user_text_caption("");
+    } else if (!check_user_text(program.stage(), path)) {
+        store(program, text.path, path);
+        (screen.*text.button).caption = user_text_caption(path);
         take_back(program, text);
     } else {
         (screen.*text.other_box).value = false;
@@ -246,24 +244,13 @@ void select_stored(Program& program, std::string_view name) {
     select_stored(program, *find_option(program.screen, switch_options(), name));
 }
 
-// The second line of a user text of the log book holds this.
-constexpr std::string_view user_text_heading = "ｺｰﾙｻｲﾝ|__氏  名___|";
-
-bool is_user_text(Program& program, const std::string& path) {
-    TextInput file = program.stage().open_input(path);
-    std::string_view line;
-    return file.next_line(line) && file.next_line(line) &&
-           line.find(user_text_heading) != std::string_view::npos;
-}
-
 void set_user_text(Program& program, const UserText& text) {
     const std::string path =
         program.person.choose_file({.filter = "ﾕｰｻﾞｰﾃｷｽﾄﾌｧｲﾙ ( *.txt )|*.txt"});
     if (path.empty()) {
         return;
     }
-    if (!is_user_text(program, path)) {
-        program.person.show({.text = "Ｈａｍｌｏｇのユーザー・テキスト形式ではありません！"});
+    if (!check_form_of_user_text(program.stage(), path)) {
         (program.screen.*text.box).value = false;
         return;
     }
@@ -337,9 +324,16 @@ void run_option_handlers(Program& program) {
          {"Option05", "Option06", "Option07", "Option08", "Option09"}) {
         click(name);
     }
+    const MainScreen& screen = program.screen;
     for (const SwitchOption& option : switch_options()) {
-        option_clicked(program, option);
+        const CheckBox& box = screen.*option.control;
+        // Those of the member search are set later.
+        if (&box != &screen.Check31 && &box != &screen.Check32 && &box != &screen.Check33) {
+            option_clicked(program, option);
+        }
     }
+    // No earlier step has set this one, and its handler would forget what is stored.
+    select_stored(program, "Option22");
     for (const std::string_view name : {"Option2", "Option22", "Option4"}) {
         click(name);
     }
@@ -367,13 +361,6 @@ void ask_for_dat(MainScreen& screen) {
     for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
         label->show("ﾒﾆｭｰからDATﾌｧｲﾙを指定して下さい。", colours::red);
     }
-}
-
-std::string user_text_caption(std::string_view path) {
-    if (path.empty()) {
-        return "使用なら要 set";
-    }
-    return replace_all(replace_all(split_path(path).name, ".txt", ""), ".TXT", "");
 }
 
 void cmdSet_UserTxt_A_Click(Program& program) {

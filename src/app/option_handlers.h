@@ -30,9 +30,6 @@ bool has_dat(const Program& program);
 // Asks for a contest data file, in red.
 void ask_for_dat(MainScreen& screen);
 
-// What the button of a user text shows: the file's name, or that one has to be set.
-std::string user_text_caption(std::string_view path);
-
 void cmdSet_UserTxt_A_Click(Program& program);
 void cmdSet_UserTxt_B_Click(Program& program);
 

@@ -8,8 +8,8 @@ bool uses_name_mas(const RunOptions& options, const EnvironmentSettings& environ
     return options.Check03 && has_backslash(environment.name_mas_dir);
 }
 
-RunMasters::RunMasters(const RunOptions& options, const SettingsStore& settings,
-                       NameMas& name_mas, std::size_t& text_data_hits) {
+RunMasters::RunMasters(const RunOptions& options, const SettingsStore& settings, NameMas& name_mas,
+                       std::size_t& text_data_hits) {
     const EnvironmentSettings& environment = settings.environment;
     if (uses_name_mas(options, environment)) {
         name_mas_ = &name_mas;

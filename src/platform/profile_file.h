@@ -57,7 +57,7 @@ class ProfileFile {
     struct Line {
         enum class Kind { section, key, other };
         Kind kind = Kind::other;
-        std::string bytes;  // as it stands in the file: what is not set is written as it was
+        std::string bytes;  // without its end: what is not set is written as it was
         std::string text;   // the same, to be read
         std::string name;   // of the section or key, in lower case
     };

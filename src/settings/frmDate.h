@@ -20,6 +20,9 @@ struct frmDate : WindowForm {
 
     Label lblStart{*this, "lblStart", "　抽 出 開 始 "};
     Label lblEnd{*this, "lblEnd", "　抽 出 終 了 "};
+    Label lblYear{*this, "lblYear", "年"};
+    Label lblMonth{*this, "lblMonth", "月"};
+    Label lblDay{*this, "lblDay", "日"};
     // Year, month and day of the start, then of the end; the latest on top.
     ListBox List1{*this, "List1"};
     ListBox List2{*this, "List2"};

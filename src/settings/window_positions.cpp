@@ -37,7 +37,8 @@ std::string text_of(float number) {
 }  // namespace
 
 void make_position_file(Disk& disk, std::string_view strPath) {
-    if (disk.file_exists(path_of(strPath))) {
+    // A folder of that name keeps the positions from being stored, nothing more.
+    if (disk.file_exists(path_of(strPath)) || disk.folder_exists(path_of(strPath))) {
         return;
     }
     TextOutput file(disk, path_of(strPath));
