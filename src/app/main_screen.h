@@ -69,8 +69,10 @@ struct MainScreen : WindowForm {
     OptionGroup Option08{
         *this, "Option08", {"無変換", "全て J", "全て U", "DX 局 U", "ＪＡ 局 Ｊ"}, 0};
     OptionGroup Option1{*this, "Option1", {"U", "J"}, 0};
-    OptionGroup Option2{*this, "Option2", {"", "", ""}, 0};
-    OptionGroup Option22{*this, "Option22", {"", "", "", ""}, 0};
+    OptionGroup Option2{*this, "Option2", std::vector<std::string>(3, "起動時に最上部表示する。"),
+                        0};
+    OptionGroup Option22{*this, "Option22", std::vector<std::string>(4, "起動時に最上部表示する。"),
+                         0};
     OptionGroup Option4{*this, "Option4", {"左側", "右側", "左側", "右側"}, 1};
 
     CheckBox Check01{*this, "Check01", "Freq 取り込み", true};

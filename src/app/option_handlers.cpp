@@ -34,10 +34,23 @@ void clear_result_text(MainScreen& screen) {
 
 // --- what every option does ---
 
+void show(CheckBox& box) {
+    box.fore_colour = box.value ? colours::blue : colours::black;
+}
+
+void show(OptionGroup& group) {
+    std::vector<OptionGroup::Button> buttons = group.buttons;
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        const bool chosen = group.index == static_cast<int>(i);
+        buttons[i].fore_colour = chosen ? colours::blue : colours::black;
+    }
+    group.buttons = std::move(buttons);
+}
+
 void show_and_store(Program& program, const SwitchOption& option) {
     CheckBox& box = program.screen.*option.control;
     clear_result_text(program.screen);
-    box.fore_colour = box.value ? colours::blue : colours::black;
+    show(box);
     if (option.setting != nullptr) {
         store(program, option.setting, box.value ? "1" : "0");
     }
@@ -46,12 +59,7 @@ void show_and_store(Program& program, const SwitchOption& option) {
 void show_and_store(Program& program, const GroupOption& option) {
     OptionGroup& group = program.screen.*option.control;
     clear_result_text(program.screen);
-    std::vector<OptionGroup::Button> buttons = group.buttons;
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        const bool chosen = group.index == static_cast<int>(i);
-        buttons[i].fore_colour = chosen ? colours::blue : colours::black;
-    }
-    group.buttons = std::move(buttons);
+    show(group);
     store(program, option.setting, std::to_string(group.index));
 }
 
@@ -263,11 +271,13 @@ void set_user_text(Program& program, const UserText& text) {
 void attach_option_handlers(Program& program) {
     MainScreen& screen = program.screen;
     for (const GroupOption& option : group_options()) {
+        show(screen.*option.control);
         (screen.*option.control).index.on_change = [&program, option] {
             program.event([&] { option_clicked(program, option); });
         };
     }
     for (const SwitchOption& option : switch_options()) {
+        show(screen.*option.control);
         (screen.*option.control).value.on_change = [&program, option] {
             program.event([&] { option_clicked(program, option); });
         };

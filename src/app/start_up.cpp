@@ -83,13 +83,15 @@ void Check_ver(Program& program) {
 // What files of older versions need. Positions from before version 5.09 are of no use any more.
 void check_versions(Program& program) {
     SettingsStore& settings = program.settings;
-    if (settings.version_number() * 1000 < first_with_environment_file) {
+    // As it was found: writing the file brings the version up to date.
+    const double found = settings.version_number();
+    if (found * 1000 < first_with_environment_file) {
         settings.write_Veldrana_cfg_ini();
     }
     if (settings.exists(cfg_ini)) {
         settings.read_Veldrana_cfg_ini();
     }
-    program.start.old_version = settings.version_number() * 100 < first_with_these_positions;
+    program.start.old_version = found * 100 < first_with_these_positions;
     if (program.start.old_version && settings.exists(position_ini)) {
         program.disk.remove(settings.path(position_ini));
     }

@@ -66,9 +66,9 @@ std::vector<std::string> expected_folders() {
     return names;
 }
 
-class FirstStart : public testing::Test {
+class GoldenFirstStart : public testing::Test {
   protected:
-    FirstStart() {
+    GoldenFirstStart() {
         fs::create_directories(home_);
         Program program(Ports{disk_, clock_, person_, sorter_, services_}, "C:\\veldrana",
                         "C:\\WINDOWS");
@@ -87,12 +87,12 @@ class FirstStart : public testing::Test {
     Start::Reached reached_ = Start::nothing;
 };
 
-TEST_F(FirstStart, ComesToTheEnvironmentDialogWithoutAWord) {
+TEST_F(GoldenFirstStart, ComesToTheEnvironmentDialogWithoutAWord) {
     EXPECT_EQ(reached_, Start::environment_dialog);
     EXPECT_THAT(person_.boxes, IsEmpty());
 }
 
-TEST_F(FirstStart, LeavesTheExpectedFilesToTheByte) {
+TEST_F(GoldenFirstStart, LeavesTheExpectedFilesToTheByte) {
     const std::map<std::string, std::string> expected = files_in(expectations / "expected");
     const std::map<std::string, std::string> left = files_in(home_);
     ASSERT_THAT(expected, testing::Not(IsEmpty()));
@@ -104,13 +104,13 @@ TEST_F(FirstStart, LeavesTheExpectedFilesToTheByte) {
     }
 }
 
-TEST_F(FirstStart, LeavesTheExpectedFolders) {
+TEST_F(GoldenFirstStart, LeavesTheExpectedFolders) {
     const std::vector<std::string> expected = expected_folders();
     ASSERT_THAT(expected, testing::SizeIs(5));
     EXPECT_THAT(folders_in(home_), ElementsAreArray(expected));
 }
 
-TEST_F(FirstStart, LeavesTheTraceLogAndNothingElseInTheFolders) {
+TEST_F(GoldenFirstStart, LeavesTheTraceLogAndNothingElseInTheFolders) {
     for (const std::string& name : folders_in(home_)) {
         const std::vector<std::string> files = names_of(files_in(home_ / name));
         if (name == "Error_Log") {
@@ -122,7 +122,7 @@ TEST_F(FirstStart, LeavesTheTraceLogAndNothingElseInTheFolders) {
     }
 }
 
-TEST_F(FirstStart, LeavesNothingBesideTheProgramsFolder) {
+TEST_F(GoldenFirstStart, LeavesNothingBesideTheProgramsFolder) {
     EXPECT_THAT(folders_in(drive_), ElementsAre("veldrana"));
     EXPECT_THAT(files_in(drive_), IsEmpty());
     EXPECT_THAT(folders_in(scratch_.path()), ElementsAre("c"));
