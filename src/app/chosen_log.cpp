@@ -1,6 +1,6 @@
 #include "app/chosen_log.h"
 
-#include "app/option_handlers.h"
+#include "app/contest_choice.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"

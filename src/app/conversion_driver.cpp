@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/chosen_log.h"
+#include "app/contest_choice.h"
 #include "app/conversion_end.h"
 #include "app/open_text_log.h"
 #include "app/option_table.h"
@@ -10,8 +11,10 @@
 #include "app/replacement_run.h"
 #include "app/start_up.h"
 #include "app/work_files.h"
+#include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
+#include "masters/run_masters.h"
 #include "output/dupe_list.h"
 #include "output/output_orders.h"
 #include "output/output_request.h"
@@ -48,9 +51,9 @@ bool user_text_undecided(const Program& program) {
     return screen.Check8.value && none_chosen && both_known;
 }
 
-// Sources of codes and of the log book's history that this version cannot ask.
-bool wants_missing_source(const MainScreen& screen) {
-    return screen.Option02.index > 0 || screen.Option07.index > 0;
+// The log book's history, which this version cannot ask.
+bool wants_history(const MainScreen& screen) {
+    return screen.Option07.index > 0;
 }
 
 void enable_results(Program& program) {
@@ -112,11 +115,38 @@ OutputRequest output_request(const Program& program, const RunOptions& options) 
             .options = options};
 }
 
+// Codes and places by the chosen source.
+void run_code_stage(Program& program, const RunOptions& options) {
+    const Stage stage = program.stage();
+    const std::string& in_Dir = program.log.in_Dir;
+    switch (options.Option02) {
+        case 1:
+            bak_sep0(stage, {in_Dir, options, program.hl_code_mas});
+            break;
+        case 2:
+            take_dat_of_run(program);
+            bak_sep2(stage, {in_Dir, options, program.selection.dat.dat_in_name,
+                             program.selection.Code_flag, program.dat_table});
+            break;
+        case 3: {
+            const std::string& yubin_mas_dir = program.settings.environment.yubin_mas_dir;
+            YubinMas yubin_mas(stage, yubin_mas_dir);
+            CodeSource* const source = has_backslash(yubin_mas_dir) ? &yubin_mas : nullptr;
+            bak_sep1(stage, {in_Dir, options, source, program.dat_table.line_buffer()});
+            break;
+        }
+        default:
+            bak_sep3(stage, in_Dir, options);
+    }
+}
+
 // The row builder, and the log book side of the output behind it.
 std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layouts& layouts) {
     return enter_procedure(program.trace, "Private Sub Henkan_txt_2()", [&] {
         const Stage stage = program.stage();
         const OutputRequest output = output_request(program, options);
+        RunMasters masters(options, program.settings, program.name_mas,
+                           program.counters.values[Counters::text_data]);
         const std::size_t no_qsl = build_rows(stage,
                                               {.in_Dir = program.log.in_Dir,
                                                .drive_path = program.paths.drive_path,
@@ -124,7 +154,7 @@ std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layo
                                                .layout_1 = layouts.rmks1,
                                                .layout_2 = layouts.rmks2,
                                                .lengths = program.remark_lengths,
-                                               .sources = {}},
+                                               .sources = masters.sources()},
                                               program.call_memory);
         stage.sort({.start = 1,
                     .length = 8,
@@ -157,6 +187,10 @@ void make_dupe_list(Program& program) {
 Conversion cmd_henkan(Program& program, const Layouts& layouts) {
     return enter_procedure(program.trace, "Private Sub cmd_henkan()", [&] {
         program.screen.lblCFG.show("処 理 開 始", colours::green);
+        const std::string& name_mas_dir = program.settings.environment.name_mas_dir;
+        if (program.screen.Check03.value && has_backslash(name_mas_dir)) {
+            program.name_mas.read_name_mas_txt(program.stage(), name_mas_dir);
+        }
         program.kept_lines = 0;
         count_in_name(program);
         Conversion conversion;
@@ -167,7 +201,7 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
             conversion.options.Option07 = OptionGroup::none;
         }
         henkan_at_2_t(program, options);
-        bak_sep3(program.stage(), program.log.in_Dir, options);
+        run_code_stage(program, options);
         conversion.no_qsl = Henkan_txt_2(program, options, layouts);
         conversion.counts = temp_sep(program.stage(), output_request(program, options));
         if (options.Check06) {
@@ -209,10 +243,9 @@ bool cmdStart_1(Program& program) {
             program.person.show({.text = "どちらのユーザーテキストファイルか選択して下さい！"});
             return false;
         }
-        if (wants_missing_source(screen)) {
-            program.person.show({.text =
-                                     "コードの取得と No QSL の判定はまだ使えません。\n"
-                                     "「使用しない」と「この機能は無効にする」を選んで下さい。"});
+        if (wants_history(screen)) {
+            program.person.show({.text = "No QSL の判定はまだ使えません。\n"
+                                         "「この機能は無効にする」を選んで下さい。"});
             return false;
         }
 

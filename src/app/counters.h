@@ -11,6 +11,7 @@ namespace veldrana {
 // By the rows of the grid.
 struct Counters {
     static constexpr std::size_t first_of_search = 6;
+    static constexpr std::size_t text_data = 9;
 
     std::array<std::size_t, counter_labels.size()> values{};
 

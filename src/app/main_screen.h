@@ -113,6 +113,7 @@ struct MainScreen : WindowForm {
     CheckBox Check31{*this, "Check31", "N も検索"};
     CheckBox Check32{*this, "Check32", "N も書換"};
     CheckBox Check33{*this, "Check33", "無登録は N に書換"};
+    Frame Frame03{*this, "Frame03"};  // the contest data file
     Frame Frame11{*this, "Frame11"};  // what contest data give
     CommandButton cmdSet_UserTxt_A{*this, "cmdSet_UserTxt_A", "使用なら要 set"};
     CommandButton cmdSet_UserTxt_B{*this, "cmdSet_UserTxt_B", "使用なら要 set"};

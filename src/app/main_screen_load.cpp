@@ -9,6 +9,7 @@
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
+#include "masters/contest_list.h"
 #include "masters/master_checks.h"
 #include "readers/log_line.h"
 #include "settings/frmDate.h"
@@ -171,9 +172,22 @@ void Form_Load_4(Program& program) {
         set_if_empty(settings.options.Start_date, first_period_day);
         screen.window.caption = set_period_caption(settings, period_blanks_at_start);
         show_user_texts(screen, settings.options);
+        Check_contest_name_csv(program.stage(), program.paths.contest_name_csv,
+                               program.paths.strPath);
         screen.mnuQSOBank.enabled =
             program.disk.file_exists(program.log.in_Dir + std::string(log_line_file));
     });
+}
+
+// The files of the masters that the environment names.
+void check_masters(Program& program) {
+    const EnvironmentSettings& environment = program.settings.environment;
+    const NameMasCheck found =
+        name_mas_dir_check(program.stage(), environment.name_mas_dir, program.screen.Check03.value);
+    program.name_mas_max = found.name_mas_max;
+    program.screen.Check03.value = found.Check03;
+    program.screen.lblMsg.caption = std::string(found.note);
+    yubin_dir_check(program.stage(), environment.yubin_mas_dir);
 }
 
 void Form_Load(Program& program) {
@@ -187,6 +201,7 @@ void Form_Load(Program& program) {
         repair_no_qsl_letter(program.settings);
         kettuka_disp(program.counters, screen);
         read_settings(program.settings);
+        program.selection.dat.dat_in_name = program.settings.set_dat_in_name;
         get_hdb_name_bas(program);
         Disp_Rmks_cfg(program);
         Option08_set(program);
@@ -194,6 +209,7 @@ void Form_Load(Program& program) {
         Form_Load_2(program);
         Form_Load_3(program);
         Form_Load_4(program);
+        check_masters(program);
     });
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/chosen_log.h"
+#include "app/option_handlers.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
@@ -40,6 +41,7 @@ void open_text_log(Program& program, const std::string& path) {
     }
     log.chosen = path;
     program.disk.protect(path);
+    program.refusals = {};
     log.in_name = path;
     program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);
@@ -56,6 +58,12 @@ void open_text_log(Program& program, const std::string& path) {
     screen.Frame14.enabled = needs_year;
     // The label shows the log since set_out_names, or that it was refused.
     show_former_outputs(program);
+    Op02_Chk(program);
+    if (screen.lblDatName.caption.get() == "使用は無意味、[ 使用しない ] に変更した。") {
+        program.selection.Code_flag = "10";
+        screen.Option02.index = 0;
+        screen.Option02.enable_all(true);
+    }
     check_readiness(program);
 }
 

@@ -5,10 +5,10 @@
 #include <string>
 
 #include "app/chosen_log.h"
+#include "app/contest_choice.h"
 #include "app/option_table.h"
 #include "app/remark_slot_settings.h"
 #include "app/source_ranks.h"
-#include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
 #include "masters/master_checks.h"
@@ -172,6 +172,8 @@ void run_cascade(Program& program, const OptionGroup& group) {
     OptionSettings& options = program.settings.options;
     if (&group == &screen.Option02) {
         Op02_Chk(program);
+    } else if (&group == &screen.Option04) {
+        check_dat_of_options(program);
     } else if (&group == &screen.Option05) {
         Op05_Chk(screen);
     } else if (&group == &screen.Option07) {
@@ -358,19 +360,9 @@ void Op02_Chk(Program& program) {
     screen.enable_dat_choice(from_dat);
     screen.enable_dat_viewers(from_dat && has_dat(program));
     if (from_dat && !has_dat(program)) {
-        ask_for_dat(screen);
+        ask_for_dat_file(screen);
     }
     check_readiness(program);
-}
-
-bool has_dat(const Program& program) {
-    return has_backslash(program.settings.set_dat_in_name);
-}
-
-void ask_for_dat(MainScreen& screen) {
-    for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
-        label->show("ﾒﾆｭｰからDATﾌｧｲﾙを指定して下さい。", colours::red);
-    }
 }
 
 void cmdSet_UserTxt_A_Click(Program& program) {
@@ -381,6 +373,13 @@ void cmdSet_UserTxt_A_Click(Program& program) {
 void cmdSet_UserTxt_B_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub cmdSet_UserTxt_B_Click()",
                     [&] { set_user_text(program, user_text_B); });
+}
+
+void cmdCount_Click(Program& program) {
+    enter_procedure(program.trace, "Private Sub cmdCount_Click()", [&] {
+        name_mas_txt_count1(program.stage(), program.settings.environment.name_mas_dir,
+                            program.name_mas_max);
+    });
 }
 
 }  // namespace veldrana

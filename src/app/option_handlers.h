@@ -24,13 +24,10 @@ void run_option_handlers(Program& program);
 // Enables what depends on the choice of the code source, and the start buttons.
 void Op02_Chk(Program& program);
 
-// Whether a contest data file is chosen.
-bool has_dat(const Program& program);
-
-// Asks for a contest data file, in red.
-void ask_for_dat(MainScreen& screen);
-
 void cmdSet_UserTxt_A_Click(Program& program);
 void cmdSet_UserTxt_B_Click(Program& program);
+
+// Counts the records of the name masters.
+void cmdCount_Click(Program& program);
 
 }  // namespace veldrana

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "app/contest_choice.h"
 #include "app/conversion_driver.h"
 #include "app/open_text_log.h"
 #include "app/option_handlers.h"
@@ -19,7 +20,8 @@ Program::Program(const Ports& outside, std::string_view program_folder,
       sorter(outside.sorter),
       services(outside.services),
       paths(make_paths(program_folder, windows_folder)),
-      settings(disk, clock, paths.strPath) {
+      settings(disk, clock, paths.strPath),
+      hl_code_mas(paths.hl_code_mas) {
     const auto attach = [this](CommandButton& button, void (*handler)(Program&)) {
         button.Click = [this, handler] { event([this, handler] { handler(*this); }); };
     };
@@ -32,6 +34,12 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.tool_end, End_Click);
     attach(screen.cmdNow, cmdNow_Click);
     attach(screen.cmdDate, cmdDate_Click);
+    attach(screen.cmdCount, cmdCount_Click);
+    attach(screen.mnuOpenDat_semi, mnuOpenDat_semi_Click);
+    attach(screen.tool_dat_by_contest, mnuOpenDat_semi_Click);
+    attach(screen.mnuOpenDat_mnu, mnuOpenDat_mnu_Click);
+    attach(screen.tool_dat_by_hand, mnuOpenDat_mnu_Click);
+    attach(screen.cmdDisp_dat, cmdDisp_dat_Click);
     attach(screen.cmdSet_UserTxt_A, cmdSet_UserTxt_A_Click);
     attach(screen.cmdSet_UserTxt_B, cmdSet_UserTxt_B_Click);
     const auto write_options = [](Program& program) { program.settings.write_Veldrana_new_ini(); };

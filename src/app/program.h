@@ -13,12 +13,17 @@
 #include "common/failure_report.h"
 #include "common/person.h"
 #include "common/trace_log.h"
+#include "masters/code_masters.h"
+#include "masters/dat_file.h"
+#include "masters/station_masters.h"
 #include "output/output_names.h"
 #include "platform/clock.h"
 #include "platform/disk.h"
 #include "platform/services.h"
 #include "platform/stage.h"
 #include "qsl/history_times.h"
+#include "readers/contest_refusals.h"
+#include "readers/contest_selection.h"
 #include "readers/input_kind.h"
 #include "rows/call_sign.h"
 #include "settings/remark_items.h"
@@ -93,6 +98,15 @@ struct Program {
     RemarkUse remark_use;
     RemarkLengths remark_lengths;
     CallMemory call_memory;
+    ContestSelection selection;
+    ContestRefusals refusals;
+    // The box about the contest data file keeps the caption of its kind from one showing to the
+    // next.
+    std::string dat_kind_caption;
+    NameMas name_mas;
+    std::size_t name_mas_max = 0;  // the highest number of a numbered name master
+    HlCodeMas hl_code_mas;
+    DatTable dat_table;
     RunMode run_mode = RunMode::conversion;
     // Lines that the operator filter let through; .TXT logs are counted apart, and the warning
     // about an operator without lines looks at the first count alone.

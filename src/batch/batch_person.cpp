@@ -20,6 +20,13 @@ Answer BatchPerson::show(const MessageBox& box) {
     return ++retries_ > retry_limit ? Answer::cancel : Answer::retry;
 }
 
+void BatchPerson::show_modal(WindowForm& form) {
+    if (use_) {
+        use_(form);
+    }
+    form.window.visible = false;
+}
+
 std::string BatchPerson::choose_file(const FileDialog& /*dialog*/) {
     return file_;
 }

@@ -1,6 +1,7 @@
 // Owns the answers that the batch program gives in a person's place.
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 
@@ -23,14 +24,18 @@ class BatchPerson : public Person {
 
     Answer show(const MessageBox& box) override;
     std::string choose_file(const FileDialog& dialog) override;
-    // Nobody fills in a form: it is closed as it is.
-    void show_modal(WindowForm& form) override { form.window.visible = false; }
+    // What is done with the next forms.
+    void fill_in(std::function<void(WindowForm&)> use) { use_ = std::move(use); }
+
+    // A form that nobody fills in is closed as it is.
+    void show_modal(WindowForm& form) override;
     void pending_events() override {}
 
   private:
     std::ostream& messages_;
     Answer answer_;
     std::string file_;
+    std::function<void(WindowForm&)> use_;
     std::string retried_;
     int retries_ = 0;
 };

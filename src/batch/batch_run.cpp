@@ -6,6 +6,7 @@
 #include "batch/batch_person.h"
 #include "platform/environment.h"
 #include "platform/host_disk.h"
+#include "readers/frmCon_sel.h"
 
 namespace veldrana {
 namespace {
@@ -69,7 +70,7 @@ class BatchProgram {
         if (program_.ended()) {
             return false;
         }
-        if (!program_.screen.cmdStart.enabled) {
+        if (!program_.log.f_type) {
             output_.messages << program_.screen.lblIn_name.caption.get() << '\n';
             return false;
         }
@@ -79,6 +80,28 @@ class BatchProgram {
             return false;
         }
         return true;
+    }
+
+    // Picks the contest with that data file in the contest dialog and confirms it; false if there
+    // is none, if the dialog does not let it, or if the program has ended.
+    bool choose_contest(const std::string& Dat_name) {
+        bool confirmed = false;
+        person_.fill_in([&](WindowForm& form) {
+            if (auto* const dialog = dynamic_cast<frmCon_sel*>(&form)) {
+                confirmed = confirm(*dialog, Dat_name);
+            }
+        });
+        program_.screen.mnuOpenDat_semi.press();
+        return confirmed && !program_.ended();
+    }
+
+    // False, with what the screen asks for, if the run cannot be started.
+    bool is_ready() {
+        const MainScreen& screen = program_.screen;
+        if (!screen.cmdStart.enabled) {
+            output_.messages << screen.lblDatName.caption.get() << '\n';
+        }
+        return screen.cmdStart.enabled;
     }
 
     // Ends the program in order, unless it has ended.
@@ -96,6 +119,21 @@ class BatchProgram {
     }
 
   private:
+    bool confirm(frmCon_sel& dialog, const std::string& Dat_name) {
+        const int row = dialog.row_of(Dat_name);
+        if (row == ListBox::none) {
+            output_.messages << "コンテスト一覧にありません: " << Dat_name << '\n';
+            return false;
+        }
+        dialog.List1.index = row;
+        if (!dialog.lblMsg1.caption.get().empty()) {
+            output_.messages << dialog.lblMsg1.caption.get() << '\n';
+        }
+        const bool confirmable = dialog.cmdOK.enabled;
+        dialog.cmdOK.press();
+        return confirmable;
+    }
+
     // In the place of the dialog, which nobody could fill in here.
     void tell_what_the_environment_lacks() {
         const SettingsStore& settings = program_.settings;
@@ -156,6 +194,16 @@ ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
         return ended_with(exit_usage);
     }
     if (!batch.open(command)) {
+        const ExitStatus status = ended_with(exit_refused);
+        batch.end();
+        return status;
+    }
+    if (!command.contest.empty() && program.screen.Option02.index != 2) {
+        output.messages << "--contest は --set Option02=2 と共に使います。\n";
+        batch.end();
+        return exit_usage;
+    }
+    if ((!command.contest.empty() && !batch.choose_contest(command.contest)) || !batch.is_ready()) {
         const ExitStatus status = ended_with(exit_refused);
         batch.end();
         return status;

@@ -32,7 +32,8 @@ struct BatchOptions {
 
 struct ConvertCommand {
     std::filesystem::path log;
-    std::optional<InputKind> kind;  // by the extension where not given
+    std::optional<InputKind> kind = {};  // by the extension where not given
+    std::string contest = {};  // the contest's data file as the contest list names it; empty: none
 };
 
 // Where the batch program writes.

@@ -23,6 +23,7 @@ struct Words {
     bool keep_work = false;
     std::string log;
     std::string kind;
+    std::string contest;
 };
 
 bool is_folder(const std::filesystem::path& path) {
@@ -66,6 +67,8 @@ void declare(CLI::App& app, Words& words) {
 
     CLI::App* const convert = app.add_subcommand("convert", "ログを変換する");
     convert->add_option("LOG", words.log, "入力ログ")->required();
+    convert->add_option("--contest", words.contest,
+                        "個別 DAT のファイル名でコンテストを選ぶ (Option02=2 の時)");
     convert->add_option("--kind", words.kind, "ログの種類: all, txt (省略時は拡張子による)")
         ->check(CLI::IsMember({"all", "txt"}));
 }
@@ -115,7 +118,7 @@ int run_command_line(int count, char** words, const BatchOutput& output) {
     if (!given.kind.empty()) {
         kind = given.kind == "all" ? InputKind::all : InputKind::txt;
     }
-    return convert(options, {.log = given.log, .kind = kind}, output);
+    return convert(options, {.log = given.log, .kind = kind, .contest = given.contest}, output);
 }
 
 }  // namespace veldrana

@@ -43,7 +43,9 @@ constexpr std::array<Warning, 4> warnings{
 }  // namespace
 
 frmCon_sel::frmCon_sel(const Stage& stage, ContestDialogRequest request)
-    : stage_(stage), request_(std::move(request)) {
+    : WindowForm("frmCon_sel", "　　コンテスト 選択 ・ 情報　の取得"),
+      stage_(stage),
+      request_(std::move(request)) {
     List1.index.on_change = [this] { List1_Click(); };
     Text1.text.on_change = [this] { Text1_Change(); };
     Text1.tool_tip = "検索する dat , mas mst ファイル名かコンテスト名の略称を入力する。";
@@ -105,6 +107,13 @@ void frmCon_sel::preselect() {
     for (const std::size_t row : preselected_rows(keys, request_.in_name)) {
         List1.index = static_cast<int>(row);
     }
+}
+
+int frmCon_sel::row_of(std::string_view Dat_name) const {
+    const auto found =
+        std::find_if(contests_.begin(), contests_.end(),
+                     [Dat_name](const ContestEntry& entry) { return entry.Dat_name == Dat_name; });
+    return found == contests_.end() ? ListBox::none : static_cast<int>(found - contests_.begin());
 }
 
 const ContestEntry& frmCon_sel::chosen() const {
@@ -251,9 +260,7 @@ void frmCon_sel::cmdBack_Click() {
 
 void frmCon_sel::close(ContestDialogResult result) {
     result_ = std::move(result);
-    if (on_close) {
-        on_close();
-    }
+    window.visible = false;
 }
 
 }  // namespace veldrana

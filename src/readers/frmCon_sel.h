@@ -5,7 +5,6 @@
 // Beside the program it writes con_aa_name.txt and con_aaa_name.txt, and removes them again.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,9 +38,8 @@ struct ContestDialogResult {
     bool dat_is_there = false;        // what the presence check behind cmdOK has found
 };
 
-class frmCon_sel : public Form {
+class frmCon_sel : public WindowForm {
   public:
-    static constexpr std::string_view caption = "　　コンテスト 選択 ・ 情報　の取得";
     static constexpr std::size_t most_contests = 150;
 
     // The stage and what it refers to outlive the form.
@@ -74,6 +72,9 @@ class frmCon_sel : public Form {
     // The contests in the order of the list.
     const std::vector<ContestEntry>& contests() const noexcept { return contests_; }
 
+    // The row of the first contest with that data file; ListBox::none if the list has none.
+    int row_of(std::string_view Dat_name) const;
+
     void List1_Click();
     void Text1_Change();
     // The Enter key in the text box.
@@ -86,8 +87,6 @@ class frmCon_sel : public Form {
 
     // Nothing until the dialog was left.
     const std::optional<ContestDialogResult>& result() const noexcept { return result_; }
-    // The view: runs when there is a result.
-    std::function<void()> on_close;
 
   private:
     void load_contests();

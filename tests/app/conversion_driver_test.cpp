@@ -15,6 +15,8 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
+constexpr std::string_view user_text = "title\r\n |ｺｰﾙｻｲﾝ|__氏  名___|\r\n JA1ZZA山田\r\n";
+
 class ConversionDriver : public testing::Test {
   protected:
     ConversionDriver() {
@@ -134,9 +136,9 @@ TEST_F(ConversionDriver, NameOfTheOperatorIsTrimmed) {
 }
 
 TEST_F(ConversionDriver, UndecidedUserTextStopsBeforeAnythingHasChanged) {
-    kit.put_text("C:\\Hamlog\\a.txt", "x");
+    kit.put_text("C:\\Hamlog\\a.txt", user_text);
     program.settings.options.Text_data_dir_A = "C:\\Hamlog\\a.txt";
-    kit.put_text("C:\\Hamlog\\b.txt", "x");
+    kit.put_text("C:\\Hamlog\\b.txt", user_text);
     program.settings.options.Text_data_dir_B = "C:\\Hamlog\\b.txt";
     screen.Check8.value = true;
     screen.Check27.value = true;
@@ -156,9 +158,9 @@ TEST_F(ConversionDriver, UndecidedUserTextStopsBeforeAnythingHasChanged) {
 }
 
 TEST_F(ConversionDriver, ADecidedUserTextDoesNotStop) {
-    kit.put_text("C:\\Hamlog\\a.txt", "x");
+    kit.put_text("C:\\Hamlog\\a.txt", user_text);
     program.settings.options.Text_data_dir_A = "C:\\Hamlog\\a.txt";
-    kit.put_text("C:\\Hamlog\\b.txt", "x");
+    kit.put_text("C:\\Hamlog\\b.txt", user_text);
     program.settings.options.Text_data_dir_B = "C:\\Hamlog\\b.txt";
     screen.Check8.value = true;
     screen.Check4_B.value = true;
@@ -167,7 +169,7 @@ TEST_F(ConversionDriver, ADecidedUserTextDoesNotStop) {
 }
 
 TEST_F(ConversionDriver, OneUserTextAloneNeedsNoDecision) {
-    kit.put_text("C:\\Hamlog\\a.txt", "x");
+    kit.put_text("C:\\Hamlog\\a.txt", user_text);
     program.settings.options.Text_data_dir_A = "C:\\Hamlog\\a.txt";
     screen.Check8.value = true;
     screen.cmdStart.press();
@@ -257,7 +259,8 @@ TEST_F(ConversionDriver, ScratchFilesOfTheDriveAreDeletedAndThoseOfTheLogStay) {
     screen.cmdStart.press();
     std::vector<std::string> files = kit.memory.files();
     std::erase_if(files, [&](const std::string& file) {
-        return file == program.trace.path() || file.ends_with(".ini");
+        return file == program.trace.path() || file.ends_with(".ini") ||
+               file.ends_with("contest_name.csv");
     });
     EXPECT_THAT(files, testing::UnorderedElementsAre(
                            "C:\\bak_123.txt", "C:\\other.csv", "C:\\new_qsl_contest.csv",

@@ -535,6 +535,9 @@ void PrintTo(const BoxRow& row, std::ostream* out) {
 
 class StoredBox : public LoadTest, public testing::WithParamInterface<BoxRow> {
   protected:
+    // Without its file the name master would be switched off.
+    StoredBox() { use_all_masters(kit); }
+
     CheckBox& box = dynamic_cast<CheckBox&>(*screen.find(GetParam().name));
 };
 INSTANTIATE_TEST_SUITE_P(

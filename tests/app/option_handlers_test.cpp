@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/contest_choice.h"
 #include "app/option_table.h"
 #include "tests/app/stored_settings.h"
 
@@ -24,6 +25,7 @@ class OptionTest : public testing::Test {
         set_user_text_a(kit);
         set_user_text_b(kit);
         kit.start();
+        kit.person.boxes.clear();
     }
 
     OptionSettings& options() { return kit.program->settings.options; }

@@ -34,8 +34,15 @@ inline constexpr std::string_view ready_environment =
     "zlo_dir=C:\\log\\\r\nall_dir=C:\\log\\\r\nMyCalls=JA1ZZZ\r\nPassWords=secret\r\n"
     "No_QSL_moji=N\r\nNo_QSL_moji_set_flag=1\r\n";
 
+// A contest list of two contests, one of them without a data file.
+inline constexpr std::string_view ready_contest_list =
+    "No,Cfg_name,Dat_name,Con_name,Code_flag,Con_no_1,Con_no_2,\r\n"
+    "1,acag.cfg,acag.dat,全市全郡コンテスト,31,JCC・JCG + 電力,,\r\n"
+    "2,dx.cfg,no.dat,DXコンテスト,00,連番号,,\r\n";
+
 struct ProgramKit {
-    // A ready folder has the options of a new one and has been started before.
+    // A bare folder holds what is laid there with the program; a ready one has the options of a new
+    // one besides and has been started before.
     explicit ProgramKit(std::string_view program_folder = "C:\\veldrana",
                         Installed installed = Installed::ready) {
         memory.put_folder(program_folder);
@@ -47,6 +54,7 @@ struct ProgramKit {
             options.write_Veldrana_new_ini();
             put_text(program->paths.strPath + "Veldrana_cfg.ini", ready_environment);
         }
+        put_text(program->paths.contest_name_csv, ready_contest_list);
     }
 
     // Whether the start came to the main screen.

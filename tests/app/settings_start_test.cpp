@@ -732,6 +732,10 @@ TEST_F(SettingsStart, AStartLeavesChosenOptionsAsTheyAre) {
         }
     }
     kit.put_text(folder + "Veldrana_new.ini", lines);
+    kit.put_text("C:\\Hamlog\\name_mas.txt", "heading\r\nheading\r\n JA1ZZA\r\n");
+    ProfileFile environment(kit.memory, folder + "Veldrana_cfg.ini");
+    environment.set_value(cfg_ini, "name_mas_dir", "C:\\Hamlog\\");
+    ASSERT_TRUE(environment.save());
     ASSERT_EQ(start(), Start::main_screen);
     kit.program->settings.write_Veldrana_new_ini();
     for (const auto& [section, keys] : chosen_options) {

@@ -787,9 +787,15 @@ TEST_P(EveryNeeded, EndsTheProgramIfItIsMissing) {
     EXPECT_EQ(kit.program->ended(), ProgramEnd::Cause::refused);
 }
 
+// Only the contest list is read by every start.
 TEST_P(EveryNeeded, IsNotMissedByANormalStart) {
     take_away(GetParam());
     NextStart next(kit);
+    if (GetParam().file == "mas_mst\\contest_name.csv") {
+        EXPECT_EQ(next.program.ended(), ProgramEnd::Cause::reported);
+        EXPECT_THAT(kit.person.boxes.at(0).text, HasSubstr("エラー発生 ：　53"));
+        return;
+    }
     EXPECT_EQ(next.reached(), Start::main_screen);
     EXPECT_THAT(kit.person.boxes, IsEmpty());
 }
@@ -822,13 +828,19 @@ TEST_F(NeededTest, RowsAreTestedInTheirOrder) {
             continue;  // one service can be taken away at a time
         }
         ProgramKit other;
+        other.start();
         for (const NeededRow& row : needed) {
-            if (!row.file.empty() && &row != &needed[i] && &row != &needed[i + 1]) {
-                other.put_text(home + std::string(row.file), "x\r\n");
+            const std::string path = home + std::string(row.file);
+            if (row.file.empty()) {
+                continue;
+            }
+            if (&row != &needed[i] && &row != &needed[i + 1]) {
+                other.put_text(path, "x\r\n");
+            } else if (other.memory.file_exists(path)) {
+                other.memory.remove(path);
             }
         }
         other.services.missing = needed[i].service;
-        other.start();
         other.program->event([&other] { Main2_bas(*other.program); });
         ASSERT_THAT(other.person.boxes, SizeIs(1)) << needed[i].name;
         EXPECT_EQ(other.person.boxes[0].title, needed[i].title);

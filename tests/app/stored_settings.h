@@ -46,6 +46,12 @@ inline void use_all_masters(ProgramKit& kit) {
     put_entry(kit, "name_mas_dir", "C:\\hamlog\\");
     put_entry(kit, "qth_mas_dir", "C:\\hamlog\\qth_mas.txt");
     put_entry(kit, "yubin_mas_dir", "C:\\hamlog\\");
+    const std::string_view master = "heading\r\nheading\r\n JA1ZZA山田\r\n";
+    kit.put_text("C:\\hamlog\\name_mas.txt", master);
+    kit.put_text("C:\\hamlog\\qth_mas.txt", master);
+    for (const char digit : std::string_view("0123456789")) {
+        kit.put_text(std::string("C:\\hamlog\\yubin_m") + digit + ".mas", master);
+    }
 }
 
 constexpr std::string_view user_text_a = "C:\\hamlog\\alpha.txt";

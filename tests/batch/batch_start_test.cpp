@@ -20,7 +20,8 @@ using testing::Not;
 class BatchStart : public testing::Test {
   protected:
     BatchStart() {
-        fs::create_directories(home);
+        fs::create_directories(home / "mas_mst");
+        write_bytes(home / "mas_mst" / "contest_name.csv", to_code_page(ready_contest_list));
         write_bytes(log, to_code_page(sample_all_log));
     }
 

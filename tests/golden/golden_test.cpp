@@ -25,6 +25,7 @@ struct GoldenCase {
     std::string purpose;
     std::vector<std::string> settings;
     std::string log;
+    std::string contest;  // to be picked in the contest dialog; empty: none
     int status = 0;
 };
 
@@ -44,6 +45,8 @@ GoldenCase read_case(const fs::path& folder) {
             read.settings.push_back(value);
         } else if (key == "log") {
             read.log = value;
+        } else if (key == "contest") {
+            read.contest = value;
         } else if (key == "status") {
             read.status = std::stoi(value);
         } else {
@@ -129,6 +132,9 @@ TEST_P(Golden, EndsAsExpected) {
         arguments.insert(arguments.end(), {"--set", setting});
     }
     arguments.insert(arguments.end(), {"convert", (drive / golden.log).string()});
+    if (!golden.contest.empty()) {
+        arguments.insert(arguments.end(), {"--contest", golden.contest});
+    }
 
     const ProcessResult run = run_batch(arguments);
 

@@ -89,7 +89,7 @@ TEST_F(ContestDialog, ShowsTheLogAndWhatItHolds) {
     EXPECT_EQ(dialog.lblIn_name.caption, std::string("C:\\log\\x.all"));
     EXPECT_THAT(dialog.List2.rows.get(), ElementsAre("RST Rcvd", "599 1004", "599 104M"));
     EXPECT_EQ(dialog.lblC_key.caption, std::string("1 : 数字  ,  12 : 数字 + 英字  ,  "));
-    EXPECT_EQ(frmCon_sel::caption, "　　コンテスト 選択 ・ 情報　の取得");
+    EXPECT_EQ(dialog.window.caption.get(), "　　コンテスト 選択 ・ 情報　の取得");
 }
 
 TEST_F(ContestDialog, ListRowsStandInColumnsOfBytes) {
@@ -545,11 +545,10 @@ TEST_F(ContestDialogChoice, NothingIsConfirmedWhileNothingIsChosen) {
 TEST_F(ContestDialogChoice, BackLeavesTheSelectionAsItWas) {
     frmCon_sel& dialog = open();
     dialog.List1.index = 1;
-    bool closed = false;
-    dialog.on_close = [&closed] { closed = true; };
+    dialog.window.visible = true;
     dialog.cmdBack.press();
     ASSERT_TRUE(dialog.result().has_value());
-    EXPECT_TRUE(closed);
+    EXPECT_FALSE(dialog.window.visible);
     EXPECT_FALSE(dialog.result()->confirmed);
     EXPECT_EQ(dialog.result()->selection.Con_name, "before");
     EXPECT_EQ(dialog.result()->selection.dat.dat_in_name, "C:\\zlog\\before.dat");
@@ -558,12 +557,11 @@ TEST_F(ContestDialogChoice, BackLeavesTheSelectionAsItWas) {
 
 TEST_F(ContestDialogChoice, ConfirmationCloses) {
     frmCon_sel& dialog = open();
-    int closed = 0;
-    dialog.on_close = [&closed] { ++closed; };
+    dialog.window.visible = true;
     dialog.List1.index = 1;
-    EXPECT_EQ(closed, 0);
+    EXPECT_TRUE(dialog.window.visible);
     dialog.cmdOK.press();
-    EXPECT_EQ(closed, 1);
+    EXPECT_FALSE(dialog.window.visible);
 }
 
 TEST_F(ContestDialog, ControlsAreFoundByTheirNames) {

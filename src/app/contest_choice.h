@@ -1,0 +1,34 @@
+// Owns how the main screen comes to a contest data file: the contest dialog, the manual way, and
+// what the screen shows of the choice.
+#pragma once
+
+#include "app/program.h"
+
+namespace veldrana {
+
+// Whether a contest data file is chosen.
+bool has_dat(const Program& program);
+
+// Asks for a contest data file, in red.
+void ask_for_dat_file(MainScreen& screen);
+
+// Opens the contest dialog; does nothing unless a log is chosen.
+void mnuOpenDat_semi_Click(Program& program);
+
+// Asks for a data file, and for a .ALL log looks up its contest; does nothing unless a log is
+// chosen.
+void mnuOpenDat_mnu_Click(Program& program);
+
+// Tells about the chosen contest and its data file in a box.
+void cmdDisp_dat_Click(Program& program);
+
+// With codes taken from the data file: rebuilds its path, and has its presence checked.
+void check_dat_of_options(Program& program);
+
+// The data file as a run takes it: read again from the settings, with its presence checked.
+void take_dat_of_run(Program& program);
+
+// Where contest data files lie.
+DatFolders dat_folders(const Program& program);
+
+}  // namespace veldrana
