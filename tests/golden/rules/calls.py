@@ -2,6 +2,8 @@
 
 import re
 
+from .sjis import upper
+
 JAPANESE = re.compile(r"(7[J-N]|8[J-N]|J[A-S])[0-9]", re.ASCII)
 
 # In this order, each deleted everywhere: so "/MM" leaves an "M" and "/QRPP" a "P".
@@ -22,9 +24,9 @@ def split_portable(call: str) -> tuple[str, str]:
     return call[:first], call[first + 1 : last]
 
 
-def upper(text: str) -> str:
-    # str.upper would change half-width katakana, which are no letters here.
-    return "".join(chr(ord(c) - 32) if "a" <= c <= "z" else c for c in text)
+def is_japanese_call(call: str) -> bool:
+    """The test of the code stages: the call as logged, small letters are none of it."""
+    return JAPANESE.match(call) is not None
 
 
 class CallRules:
@@ -57,7 +59,7 @@ class CallRules:
         # Two pieces of one length, or nothing behind the slash: the key of the contact before.
 
     def is_japanese(self) -> bool:
-        return JAPANESE.match(self._ja_key) is not None
+        return is_japanese_call(self._ja_key)
 
     def is_club(self, base: str) -> bool:
         if len(base) == 5:

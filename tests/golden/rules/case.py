@@ -9,6 +9,7 @@ class Case:
     folder: Path
     purpose: str = ""
     log: str = ""
+    contest: str = ""
     status: int = 0
     settings: list[tuple[str, str]] = field(default_factory=list)
 
@@ -45,6 +46,8 @@ def load_case(folder: Path) -> Case:
             case.settings.append((name, setting))
         elif key == "log":
             case.log = value
+        elif key == "contest":
+            case.contest = value
         elif key == "status":
             case.status = int(value)
         else:

@@ -14,7 +14,9 @@ LABELS = [
 ]
 
 
-def counter_lines(lines: int, multiples: int, singles: int, no_qsl: int, named: int) -> str:
-    """A line each: label, TAB, number. Member search and text data have counted nothing."""
-    numbers = [lines, multiples, singles, multiples + singles, no_qsl, named, 0, 0, 0, 0]
+def counter_lines(
+    lines: int, multiples: int, singles: int, no_qsl: int, named: int, text_hits: int
+) -> str:
+    """A line each: label, TAB, number. The member search has counted nothing."""
+    numbers = [lines, multiples, singles, multiples + singles, no_qsl, named, 0, 0, 0, text_hits]
     return "".join(f"{label}\t{number}\n" for label, number in zip(LABELS, numbers, strict=True))

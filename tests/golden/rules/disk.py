@@ -17,7 +17,9 @@ class RunTimeFailure(Exception):
 
 
 INVALID_CALL = 5
+OUT_OF_RANGE = 9
 TYPE_MISMATCH = 13
+NO_SUCH_FILE = 53
 PAST_THE_END = 62
 NO_SUCH_FOLDER = 76
 
@@ -34,6 +36,16 @@ class Drive(dict[str, bytes]):
 
     def has_folder(self, folder: str) -> bool:
         return folder in self._folders
+
+    def find(self, path: str) -> str | None:
+        """The name of a file as it stands on the drive: case does not count."""
+        return next((name for name in self if name.lower() == path.lower()), None)
+
+    def lines_of(self, path: str) -> list[str]:
+        name = self.find(path)
+        if name is None:
+            raise RunTimeFailure(NO_SUCH_FILE)
+        return read_lines(self[name])
 
     def delete(self, *paths: str) -> None:
         for path in paths:
@@ -66,6 +78,13 @@ def read_lines(raw: bytes) -> list[str]:
     return [sjis.decode(line.removesuffix(b"\r")) for line in lines]
 
 
+def behind_headings(lines: list[str], headings: int) -> list[str]:
+    """The lines of a master behind its headings; these have to be there."""
+    if len(lines) < headings:
+        raise RunTimeFailure(PAST_THE_END)
+    return lines[headings:]
+
+
 class LineWriter:
     """A text file being written. What was written stays when a failure ends the run."""
 
@@ -87,8 +106,8 @@ class LineWriter:
 class FieldReader:
     """Reads a file field by field, over the ends of its lines."""
 
-    def __init__(self, files: Drive, path: str):
-        self._lines = read_lines(files[path])
+    def __init__(self, files: Drive, path: str, skip: int = 0):
+        self._lines = read_lines(files[path])[skip:]
         self._fields: list[str] = []
 
     def at_end(self) -> bool:

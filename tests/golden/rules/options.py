@@ -1,32 +1,52 @@
-"""The controls of the main screen that a run reads, with the values of a first start."""
+"""The controls of the main screen that a run reads."""
 
 from . import sjis
+from .settings import StoredOptions
 
 REMARK_SLOTS = [f"lblRmks{remark}({slot})" for remark in (1, 2) for slot in range(6)]
 
-# A case that sets a control not in this table is refused, so that a slip of the pen is seen.
-DEFAULTS = {
-    "Option02": "0",  # the code stage: none
-    "Option05": "0",  # 0 stations worked once apart from the others, 1 together
-    "Option06": "0",  # the key: 0 call, band, mode, date, time; 1 call, date, time, band, mode
-    "Option07": "0",  # the history: not used
-    "Option08": "0",  # the time: 0 as logged, 1 all J, 2 all U, 3 DX in U, 4 JA in J
-    "Option09": "0",  # the order: 0 ASCII, 1 JARL, 2 JARL reversed
-    "Option1": "0",  # the time of the log: 0 UTC, 1 Japan
-    "Option4": "1",  # the side of the remark for a text that no source gives
-    "Check01": "1",  # take the frequency from the memo
-    "Check06": "0",  # make the dupe list
-    "Check08": "0",  # the order for the contest file only
-    "Check1": "0",  # a blank between the items of a remark
-    "Check10": "0",  # no card for club stations
-    "Check14": "0",  # use a QTH master; there is none
-    "Check15": "1",  # read only the operator of txtOp_name
-    "Check19": "0",
-    "Check2": "0",  # N becomes J for a whole station
-    "Check20": "0",
-    "Check21": "0",  # "#" for stations worked once
-    "Check3": "0",  # J becomes N for a whole station
-    "Check8": "0",  # use a text of the log book; there is none
+# What Veldrana_new.ini stores: radio groups by the index of their button, boxes as 0 and 1.
+# A case that sets a control of none of the two tables is refused, so that a slip of the pen is seen.
+STORED = [
+    "Option02",  # the code stage: 0 none, 1 hl_code.mas, 2 contest data, 3 postal master
+    "Option04",  # 1: what the code stage found is a source of the rows, and it keeps its code
+    "Option05",  # 0 stations worked once apart from the others, 1 together
+    "Option06",  # the key: 0 call, band, mode, date, time; 1 call, date, time, band, mode
+    "Option07",  # the history: 0 not used
+    "Option08",  # the time: 0 as logged, 1 all J, 2 all U, 3 DX in U, 4 JA in J
+    "Option09",  # the order: 0 ASCII, 1 JARL, 2 JARL reversed
+    "Option1",  # the time of the log: 0 UTC, 1 Japan
+    "Option4",  # where a user text's remark goes: Rmks 1 left, right, Rmks 2 left, right
+    "Check01",  # take the frequency from the memo
+    "Check03",  # use name_mas.txt
+    "Check06",  # make the dupe list
+    "Check08",  # the order for the contest file only
+    "Check1",  # a blank between the items of a remark
+    "Check10",  # no card for club stations
+    "Check14",  # use qth_mas.txt
+    "Check4",  # qth_mas.txt: the code
+    "Check5",  # qth_mas.txt: the G/L
+    "Check6",  # qth_mas.txt: the name
+    "Check7",  # qth_mas.txt: the QTH
+    "Check16",  # qth_mas.txt: nothing but the name of a portable station
+    "Check15",  # read only the operator of txtOp_name
+    "Check19",
+    "Check2",  # N becomes J for a whole station
+    "Check20",
+    "Check21",  # "#" for stations worked once
+    "Check3",  # J becomes N for a whole station
+    "Check8",  # use a user text
+    "Check4_A",  # user text A
+    "Check4_B",  # user text B
+    "Check9",  # user text: the QTH
+    "Check11",  # user text: the name
+    "Check12",  # user text: the remark
+    "Check13",  # user text: the code
+    "Check17",  # user text: no code and QTH of a portable station
+]
+
+# What has a value of its own at a start.
+FIELDS = {
     "txtOp_name": "",
     "txtQSL_Q": "J",
     "txtQSL_S": "*",
@@ -39,29 +59,68 @@ DEFAULTS = {
 }
 
 # What these would need is not there in the rules yet, so they stay as they are.
-FIXED = ("Option02", "Option07")
+FIXED = {"Option07": "0"}
 
 # One of two boxes going on takes the other off.
-EXCLUDED_BY = {"Check2": "Check3", "Check3": "Check2"}
+EXCLUDED_BY = {"Check2": "Check3", "Check3": "Check2", "Check4_A": "Check4_B", "Check4_B": "Check4_A"}
+
+NO_CODE_STAGE, HL_CODE, CONTEST_DATA, POSTAL = range(4)
 
 
 class Options:
-    def __init__(self, settings: list[tuple[str, str]]):
-        self._values = dict(DEFAULTS)
+    def __init__(self, settings: list[tuple[str, str]], stored: StoredOptions):
+        self._text_paths = stored.text_paths
+        self.priorities = stored.priorities
+        self._values = {**stored.controls, **FIELDS}
+        if stored.controls["Check8"] == "1":
+            self._choose_only_text()
         for name, value in settings:
-            if name not in DEFAULTS:
+            if name not in self._values:
                 raise ValueError(f"the rules know no control {name}")
-            if name in FIXED and value != DEFAULTS[name]:
-                raise ValueError(f"the rules do not know {name}={value} yet")
-            self._values[name] = value
-            if value == "1" and name in EXCLUDED_BY:
-                self._values[EXCLUDED_BY[name]] = "0"
+            self._set(name, value)
+        for name, value in FIXED.items():
+            if self._values[name] != value:
+                raise ValueError(f"the rules do not know {name}={self._values[name]} yet")
+
+    def _set(self, name: str, value: str) -> None:
+        self._values[name] = value
+        if value != "1":
+            return
+        if name in EXCLUDED_BY:
+            self._values[EXCLUDED_BY[name]] = "0"
+        if name == "Check8":
+            self._choose_only_text()
+        if name in ("Check4_A", "Check4_B") and name not in self._text_paths:
+            raise ValueError(f"{name} is taken back: it has no user text")
+
+    def _choose_only_text(self) -> None:
+        """With one user text the box is chosen by itself."""
+        if len(self._text_paths) == 1:
+            for box in ("Check4_A", "Check4_B"):
+                self._values[box] = "1" if box in self._text_paths else "0"
 
     def is_on(self, check_box: str) -> bool:
         return self._values[check_box] == "1"
 
     def choice(self, group: str) -> int:
         return int(self._values[group])
+
+    @property
+    def user_text(self) -> str | None:
+        """The path of the user text that is in use."""
+        if not self.is_on("Check8"):
+            return None
+        box = next((box for box in ("Check4_A", "Check4_B") if self.is_on(box)), None)
+        return None if box is None else self._text_paths[box]
+
+    @property
+    def lacks_choice_of_text(self) -> bool:
+        """Two user texts and neither chosen: the start button says so and does nothing."""
+        return self.is_on("Check8") and self.user_text is None and len(self._text_paths) == 2
+
+    @property
+    def counts_code_stage(self) -> bool:
+        return self.choice("Option02") != NO_CODE_STAGE and self.choice("Option04") == 1
 
     def uses(self, item: str) -> bool:
         """Whether a remark item ("memo", "memo=", "OP", "OP %") stands in a slot."""

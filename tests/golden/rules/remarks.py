@@ -42,3 +42,17 @@ class RemarkComposer:
         if item in ("Rmks1", "Rmks2"):
             return self._options.comment(int(item[-1]))
         raise ValueError(f"no remark item has the name {item}")
+
+
+def with_text_remark(
+    text: str, remark_1: str, remark_2: str, options: Options
+) -> tuple[str, str]:
+    """The remarks with the one of a user text on the side that Option4 says."""
+    side = options.choice("Option4")
+    if side == 0:
+        return trim(f"{text} {remark_1}"), remark_2
+    if side == 1:
+        return trim(f"{remark_1} {text}"), remark_2
+    if side == 2:
+        return remark_1, trim(f"{text} {remark_2}")
+    return remark_1, trim(f"{remark_2} {text}")

@@ -14,24 +14,28 @@ from .calls import CallRules
 from .disk import Drive, FieldReader, LineWriter
 from .names import Names
 from .options import Options
-from .remarks import RemarkComposer
+from .remarks import RemarkComposer, with_text_remark
 from .sjis import trim
 from .sorting import sort_lines
+from .sources import DAT_MAS, NAME_MAS, QTH_MAS, TEXT_DATA, Sources, chosen
 from .times import date_text, time_text, zoned_time
 
 NO_QSL = "N"
 
 
-def build_rows(files: Drive, names: Names, options: Options, calls: CallRules) -> int:
+def build_rows(
+    files: Drive, names: Names, options: Options, calls: CallRules, sources: Sources
+) -> int:
     """Gives the number of contacts that the club rule marked."""
     contacts = FieldReader(files, names.coded_lines)
     for_sort = LineWriter(files, at.SORT_IN)
     for_contest = LineWriter(files, at.ROWS_FOR_CONTEST)
     for_hamlog = LineWriter(files, at.ROWS_FOR_HAMLOG)
+    sources.load_for_rows()
     no_qsl = 0
     for contact in contacts.records(17):
         (date, time, call, sent, received, base, portable, frequency, mode,
-         _, _, code, qth, number, operator, memo, call_again) = contact  # fmt: skip
+         _, _, stage_code, stage_qth, number, operator, memo, call_again) = contact  # fmt: skip
 
         time += "J" if options.choice("Option1") == 1 else "U"
         date, time = zoned_time(date, time, call, options, calls)
@@ -47,9 +51,20 @@ def build_rows(files: Drive, names: Names, options: Options, calls: CallRules) -
             no_qsl += 1
         sent_mark = " " if mark == NO_QSL else options.sent_mark
 
-        # No master gives anything, so code and QTH stay what the code stage wrote.
-        name = ""
-        locator = ""
+        entries = {
+            DAT_MAS: sources.dat_mas(stage_code, stage_qth),
+            NAME_MAS: sources.name_mas(base),
+            TEXT_DATA: sources.text_data(base, portable),
+        }
+        base = sources.six_character_rule(base)
+        entries[QTH_MAS] = sources.qth_mas(base, portable)
+        locator = entries[QTH_MAS].locator
+        name = chosen("name", "", entries, options)
+        code = chosen("code", stage_code, entries, options)
+        qth = chosen("qth", stage_qth, entries, options)
+        if options.is_on("Check8"):
+            text_remark = entries[TEXT_DATA].remark
+            remark_1, remark_2 = with_text_remark(text_remark, remark_1, remark_2, options)
         base = trim(base)
         tail = [date, time, sent, received, qth, remark_1, remark_2, call_again, call]
         head = [base, portable, code, locator, frequency, mode, name, mark]

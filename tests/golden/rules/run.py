@@ -1,14 +1,26 @@
 """One run from the opened log on. A further stage is a further call in convert()."""
 
 from dataclasses import dataclass
+from pathlib import Path
 
 from . import code_stage, dupe_list, last_pass, marks, rows, split_merge, text_logs
 from .calls import CallRules
 from .case import Case
+from .contest_data import Contest, choose_contest
 from .counters import counter_lines
 from .disk import Drive, LineWriter, RunTimeFailure, files_in, load_tree
 from .names import QSL_FOLDER, Names
-from .options import Options
+from .options import CONTEST_DATA, STORED, Options
+from .settings import (
+    OPTION_FILE,
+    PROGRAM_FOLDER,
+    Environment,
+    read_environment,
+    read_stored_options,
+)
+from .sources import Sources
+
+DEFAULT_STATION = Path(__file__).resolve().parent.parent / "veldrana"
 
 DONE = 0
 REFUSED = 1
@@ -23,13 +35,17 @@ class Outcome:
 
 
 def run(case: Case) -> Outcome:
-    files = Drive(load_tree(case.input), [QSL_FOLDER])
+    station = {PROGRAM_FOLDER + path: raw for path, raw in load_tree(DEFAULT_STATION).items()}
+    files = Drive(station | load_tree(case.input), [QSL_FOLDER])
     names = Names(case.log)
-    options = Options(case.settings)
+    environment = read_environment(files)
+    options = Options(case.settings, read_stored_options(files, station[OPTION_FILE], STORED))
+    contest = choose_contest(files, environment, case.contest) if case.contest else None
+
     counters = ""
-    if text_logs.accepts(case.log, files[case.log]):
+    if is_ready(files, case, options, contest):
         try:
-            counters = convert(files, case.log, names, options)
+            counters = convert(files, case.log, names, options, environment, contest)
             status = DONE
         except RunTimeFailure:
             status = FAILED
@@ -39,10 +55,27 @@ def run(case: Case) -> Outcome:
     return Outcome(status, left, counters)
 
 
-def convert(files: Drive, log: str, names: Names, options: Options) -> str:
+def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None) -> bool:
+    """Whether the start button is on and does something."""
+    if not text_logs.accepts(case.log, files[case.log]):
+        return False
+    if contest is None and (case.contest or options.choice("Option02") == CONTEST_DATA):
+        return False
+    return not options.lacks_choice_of_text
+
+
+def convert(
+    files: Drive,
+    log: str,
+    names: Names,
+    options: Options,
+    environment: Environment,
+    contest: Contest | None,
+) -> str:
+    sources = Sources(files, options, environment)
     text_logs.read_text_log(log, files[log], options, LineWriter(files, names.log_lines))
-    code_stage.write_coded_lines(files, names, options)
-    no_qsl = rows.build_rows(files, names, options, CallRules())
+    code_stage.write_coded_lines(files, names, options, environment, contest)
+    no_qsl = rows.build_rows(files, names, options, CallRules(), sources)
     lines, multiples, singles = split_merge.write_contest_rows(files, names, options)
     if options.is_on("Check06"):
         dupe_list.write_dupe_list(files, names)
@@ -54,4 +87,4 @@ def convert(files: Drive, log: str, names: Names, options: Options) -> str:
     named = last_pass.write_result(files, names.contest_rows, names.contest_result, options)
     files.delete(names.hamlog_rows, names.contest_rows, names.hamlog_split, names.contest_split)
     files.delete(names.reversed_rows)
-    return counter_lines(lines, multiples, singles, no_qsl, named)
+    return counter_lines(lines, multiples, singles, no_qsl, named, sources.text_hits)

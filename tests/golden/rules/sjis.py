@@ -69,6 +69,10 @@ def from_unicode(text: str) -> str:
     return decode(text.encode("cp932"))
 
 
+def to_unicode(text: str) -> str:
+    return encode(text).decode("cp932")
+
+
 def width(character: str) -> int:
     return 1 if ord(character) <= 0xFF else 2
 
@@ -103,3 +107,13 @@ def mid_mbcs(text: str, start: int, length: int | None = None) -> str:
 def trim(text: str) -> str:
     """Without the blanks at both ends. Only 0x20 is a blank."""
     return text.strip(" ")
+
+
+def upper(text: str) -> str:
+    # str.upper would change half-width katakana, which are no letters here.
+    return "".join(chr(ord(c) - 32) if "a" <= c <= "z" else c for c in text)
+
+
+def byte_column(line: str, first: int, length: int) -> str:
+    """A column of a fixed width, without the blanks around its text."""
+    return trim(mid_mbcs(line, first, length))
