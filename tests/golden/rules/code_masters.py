@@ -1,4 +1,4 @@
-"""The masters that are searched by a received number: hl_code.mas and yubin_m0.mas to yubin_m9.mas."""
+"""The masters that are searched by a received number: hl_code.mas, yubin_m0.mas to yubin_m9.mas."""
 
 from .disk import Drive, behind_headings
 from .sjis import byte_column, trim, upper

@@ -27,7 +27,7 @@ def write_coded_lines(
         out.write_quoted(coded_line(contacts.read(13), options, places))
 
 
-def coded_line(contact: list[str], options: Options, places) -> list[str]:
+def coded_line(contact: list[str], options: Options, places: "Places") -> list[str]:
     (year, month, day, time, call, sent, received, band, mode, operator, memo, exact,
      number) = contact  # fmt: skip
     base, portable = split_portable(call)
@@ -47,8 +47,7 @@ def coded_line(contact: list[str], options: Options, places) -> list[str]:
 
 def places_of(
     files: Drive, options: Options, environment: Environment, contest: Contest | None
-):
-    """What finds the place of each contact: an object with find(call, number)."""
+) -> "Places":
     stage = options.choice("Option02")
     if stage == HL_CODE:
         return HlCodePlaces(files)
@@ -56,16 +55,19 @@ def places_of(
         return PostalPlaces(files, environment)
     if stage == CONTEST_DATA:
         assert contest is not None
-        return ContestPlaces(ContestTable(files, contest), keeps_code=options.choice("Option04") == 1)
-    return NoPlaces()
+        table = ContestTable(files, contest)
+        return ContestPlaces(table, keeps_code=options.choice("Option04") == 1)
+    return Places()
 
 
-class NoPlaces:
+class Places:
+    """What a code stage knows of the places of the contacts: without a master nothing."""
+
     def find(self, call: str, number: str) -> Place:
         return NOWHERE
 
 
-class HlCodePlaces:
+class HlCodePlaces(Places):
     """Of every call, a foreign one too."""
 
     def __init__(self, files: Drive):
@@ -75,7 +77,7 @@ class HlCodePlaces:
         return self._master.find(leading(number, is_digit))
 
 
-class PostalPlaces:
+class PostalPlaces(Places):
     """The first character of the number names the file, its last six are the key."""
 
     def __init__(self, files: Drive, environment: Environment):
@@ -91,8 +93,8 @@ class PostalPlaces:
         return code, trim(mid_mbcs(qth, 1, SHORT_QTH_BYTES))
 
 
-class ContestPlaces:
-    """Code and QTH stay from contact to contact: without a search they are those of the one before."""
+class ContestPlaces(Places):
+    """Without a search a contact has the code and the QTH of the one before it."""
 
     def __init__(self, table: ContestTable, keeps_code: bool):
         self._table = table

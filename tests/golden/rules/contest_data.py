@@ -1,5 +1,6 @@
 """The data file of a contest: which one it is, its layouts, and its searches."""
 
+from collections.abc import Callable
 from dataclasses import dataclass
 
 from .code_masters import NOWHERE, Place
@@ -34,8 +35,7 @@ class Contest:
 
 def choose_contest(files: Drive, environment: Environment, data_name: str) -> Contest | None:
     """The first contest of the list with this data file; None if its choice cannot be confirmed."""
-    rows = FieldReader(files, CONTEST_LIST, skip=1).records(CONTEST_LIST_COLUMNS)
-    rows = list(rows)
+    rows = list(FieldReader(files, CONTEST_LIST, skip=1).records(CONTEST_LIST_COLUMNS))
     if len(rows) > MOST_CONTESTS:
         raise ValueError("the rules do not know a contest list of this length")
     row = next((row for row in rows if row[2] == from_unicode(data_name)), None)
@@ -97,7 +97,7 @@ def is_digit(character: str) -> bool:
     return "0" <= character <= "9"
 
 
-def leading(text: str, wanted) -> str:
+def leading(text: str, wanted: Callable[[str], bool]) -> str:
     """The characters at the head of a text, up to the first that is not wanted."""
     for at, character in enumerate(text):
         if not wanted(character):

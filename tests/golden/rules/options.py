@@ -6,7 +6,7 @@ from .settings import StoredOptions
 REMARK_SLOTS = [f"lblRmks{remark}({slot})" for remark in (1, 2) for slot in range(6)]
 
 # What Veldrana_new.ini stores: radio groups by the index of their button, boxes as 0 and 1.
-# A case that sets a control of none of the two tables is refused, so that a slip of the pen is seen.
+# A case that sets a control of neither table is refused, so that a slip of the pen is seen.
 STORED = [
     "Option02",  # the code stage: 0 none, 1 hl_code.mas, 2 contest data, 3 postal master
     "Option04",  # 1: what the code stage found is a source of the rows, and it keeps its code
@@ -62,7 +62,12 @@ FIELDS = {
 FIXED = {"Option07": "0"}
 
 # One of two boxes going on takes the other off.
-EXCLUDED_BY = {"Check2": "Check3", "Check3": "Check2", "Check4_A": "Check4_B", "Check4_B": "Check4_A"}
+EXCLUDED_BY = {
+    "Check2": "Check3",
+    "Check3": "Check2",
+    "Check4_A": "Check4_B",
+    "Check4_B": "Check4_A",
+}
 
 NO_CODE_STAGE, HL_CODE, CONTEST_DATA, POSTAL = range(4)
 

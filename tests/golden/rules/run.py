@@ -40,7 +40,11 @@ def run(case: Case) -> Outcome:
     names = Names(case.log)
     environment = read_environment(files)
     options = Options(case.settings, read_stored_options(files, station[OPTION_FILE], STORED))
-    contest = choose_contest(files, environment, case.contest) if case.contest else None
+    contest = None
+    if case.contest:
+        if options.choice("Option02") != CONTEST_DATA:
+            raise ValueError("a contest can be chosen only with Option02=2")
+        contest = choose_contest(files, environment, case.contest)
 
     counters = ""
     if is_ready(files, case, options, contest):
@@ -59,7 +63,7 @@ def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None
     """Whether the start button is on and does something."""
     if not text_logs.accepts(case.log, files[case.log]):
         return False
-    if contest is None and (case.contest or options.choice("Option02") == CONTEST_DATA):
+    if options.choice("Option02") == CONTEST_DATA and contest is None:
         return False
     return not options.lacks_choice_of_text
 
