@@ -20,10 +20,9 @@ std::size_t remove_matching(Disk& disk, std::string_view pattern, std::string_vi
 }
 
 void copy_file(Disk& disk, std::string_view from, std::string_view to) {
-    constexpr std::size_t block_size = std::size_t{64} * 1024;
     const std::unique_ptr<ByteSource> source = disk.open_for_reading(from);
     const std::unique_ptr<ByteSink> sink = disk.open_for_writing(to, WriteMode::replace);
-    std::vector<char> block(block_size);
+    std::vector<char> block(disk_block_size);
     for (std::size_t count = source->read(block.data(), block.size()); count > 0;
          count = source->read(block.data(), block.size())) {
         sink->write({block.data(), count});

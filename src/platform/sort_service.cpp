@@ -8,6 +8,7 @@
 
 #include "common/run_time_error.h"
 #include "common/text.h"
+#include "platform/text_file.h"
 
 namespace veldrana {
 namespace {
@@ -96,18 +97,11 @@ std::vector<Entry> entries_of(std::string_view bytes, const SortCommand& command
 }
 
 void write_lines(Disk& disk, const std::string& path, const std::vector<Entry>& entries) {
-    constexpr std::size_t block_size = std::size_t{256} * 1024;
-    const std::unique_ptr<ByteSink> sink = disk.open_for_writing(path, WriteMode::replace);
-    std::string block;
+    TextOutput output(disk, path);
     for (const Entry& entry : entries) {
-        block.append(entry.line, entry.size).append("\r\n");
-        if (block.size() >= block_size) {
-            sink->write(block);
-            block.clear();
-        }
+        output.write_bytes({entry.line, entry.size});
     }
-    sink->write(block);
-    sink->close();
+    output.close();
 }
 
 }  // namespace

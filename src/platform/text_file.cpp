@@ -12,7 +12,8 @@
 namespace veldrana {
 namespace {
 
-constexpr std::size_t block_size = std::size_t{128} * 1024;
+// Few lines are longer: what the end of a block leaves of a line has room in front of the next.
+constexpr std::size_t usual_line_size = 4096;
 
 std::size_t count_line_ends(std::string_view bytes) noexcept {
     // Eight bytes at a time: a byte that is a line end becomes 0, and only a 0 leaves its highest
@@ -35,7 +36,7 @@ std::size_t count_line_ends(std::string_view bytes) noexcept {
 }  // namespace
 
 TextInput::TextInput(Disk& disk, std::string_view path)
-    : source_(disk.open_for_reading(path)), buffer_(block_size, '\0') {}
+    : source_(disk.open_for_reading(path)), buffer_(disk_block_size + usual_line_size, '\0') {}
 
 bool TextInput::fill() {
     if (exhausted_) {
@@ -46,10 +47,10 @@ bool TextInput::fill() {
         end_ -= begin_;
         begin_ = 0;
     }
-    if (end_ == buffer_.size()) {
+    if (buffer_.size() - end_ < disk_block_size) {
         buffer_.resize(buffer_.size() * 2);
     }
-    const std::size_t count = source_->read(buffer_.data() + end_, buffer_.size() - end_);
+    const std::size_t count = source_->read(buffer_.data() + end_, disk_block_size);
     end_ += count;
     exhausted_ = count == 0;
     return count > 0;
@@ -95,7 +96,7 @@ bool TextInput::next_line(std::string_view& line) {
 
 TextOutput::TextOutput(Disk& disk, std::string_view path, WriteMode mode)
     : sink_(disk.open_for_writing(path, mode)) {
-    buffer_.reserve(block_size);
+    buffer_.reserve(disk_block_size + usual_line_size);
 }
 
 TextOutput::~TextOutput() {
@@ -108,20 +109,33 @@ TextOutput::~TextOutput() {
 
 void TextOutput::write_line(std::string_view line) {
     append_to_code_page(buffer_, line);
+    end_line();
+}
+
+void TextOutput::write_bytes(std::string_view line) {
+    buffer_ += line;
+    end_line();
+}
+
+void TextOutput::end_line() {
     buffer_ += "\r\n";
-    if (buffer_.size() >= block_size) {
-        flush();
+    if (buffer_.size() >= disk_block_size) {
+        hand_over(buffer_.size() - buffer_.size() % disk_block_size);
     }
 }
 
 void TextOutput::flush() {
+    hand_over(buffer_.size());
+}
+
+void TextOutput::hand_over(std::size_t count) {
     // Emptied first: after a failure the same bytes must not be tried again at the end.
     std::string bytes;
     bytes.swap(buffer_);
-    if (sink_ != nullptr && !bytes.empty()) {
-        sink_->write(bytes);
+    if (sink_ != nullptr && count > 0) {
+        sink_->write(std::string_view(bytes).substr(0, count));
     }
-    bytes.clear();
+    bytes.erase(0, count);
     buffer_.swap(bytes);
 }
 
@@ -136,7 +150,7 @@ void TextOutput::close() {
 
 std::size_t line_number_at_end(Disk& disk, std::string_view path) {
     const std::unique_ptr<ByteSource> source = disk.open_for_reading(path);
-    std::vector<char> block(block_size);
+    std::vector<char> block(disk_block_size);
     std::size_t line_ends = 0;
     for (std::size_t count = source->read(block.data(), block.size()); count > 0;
          count = source->read(block.data(), block.size())) {

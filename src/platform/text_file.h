@@ -41,10 +41,16 @@ class TextOutput final : public LineSink {
     ~TextOutput() override;
 
     void write_line(std::string_view line) override;
+    // The same for a line in the bytes of the code page.
+    void write_bytes(std::string_view line);
     void flush() override;
     void close() override;
 
   private:
+    void end_line();
+    // Writes so many bytes from the front of the buffer.
+    void hand_over(std::size_t count);
+
     std::unique_ptr<ByteSink> sink_;  // null once closed
     std::string buffer_;
 };
