@@ -132,16 +132,17 @@ double radix_value(std::string_view digits, int base) {
 }  // namespace
 
 bool is_ascii(std::string_view text) noexcept {
+    if (text.size() < block_size) {
+        return ascii_prefix(text, text.size()) == text.size();
+    }
+    // The last block may lie over the one before it: so no bytes are left for the end.
+    std::uint64_t bits = block_at(text, text.size() - block_size);
     std::size_t offset = 0;
-    std::uint64_t bits = 0;
     for (; offset + 4 * block_size <= text.size(); offset += 4 * block_size) {
         bits |= four_blocks_at(text, offset);
     }
     for (; offset + block_size <= text.size(); offset += block_size) {
         bits |= block_at(text, offset);
-    }
-    for (; offset < text.size(); ++offset) {
-        bits |= static_cast<unsigned char>(text[offset]);
     }
     return (bits & high_bits) == 0;
 }
