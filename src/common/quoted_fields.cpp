@@ -54,6 +54,14 @@ char* copy_short(std::string_view text, char* to) noexcept {
     return to;
 }
 
+// Copies a field with its quotes; returns the place behind it.
+char* copy_field(std::string_view field, char* to) noexcept {
+    *to++ = '"';
+    to = copy_short(field, to);
+    *to++ = '"';
+    return to;
+}
+
 // The next double quote at or behind `at`, `end` if there is none. Fields are a few bytes long: a
 // plain loop is quicker than a search made for long texts.
 const char* find_quote(const char* at, const char* end) noexcept {
@@ -91,44 +99,52 @@ bool split_written_line(std::string_view line, std::span<std::string_view> row) 
 
 }  // namespace
 
+char* QuotedLine::room_for(std::size_t count) {
+    if (buffer_.size() - size_ < count) {
+        buffer_.resize(2 * (size_ + count));
+    }
+    return buffer_.data() + size_;
+}
+
 void QuotedLine::assign(std::span<const std::string_view> fields) {
     // Every contact of every stage passes here: the room is made once, then only bytes are copied.
-    std::size_t size = 0;
+    std::size_t room = 0;
     for (const std::string_view field : fields) {
-        size += field.size() + 3;
+        room += field.size() + 3;
     }
-    line_.resize(size);
-    char* to = line_.data();
+    size_ = 0;
+    char* to = room_for(room);
     for (const std::string_view field : fields) {
-        *to++ = '"';
-        to = copy_short(field, to);
-        *to++ = '"';
+        to = copy_field(field, to);
         *to++ = ',';
     }
-    if (!fields.empty()) {
-        line_.pop_back();
-    }
+    end_at(fields.empty() ? to : to - 1);
 }
 
 void QuotedLine::assign(std::string_view field, std::string_view written_line) {
-    line_.assign("\"").append(field).append("\",").append(written_line);
+    clear().add(field).add_written(written_line);
 }
 
 QuotedLine& QuotedLine::clear() noexcept {
-    line_.clear();
+    size_ = 0;
     return *this;
 }
 
 QuotedLine& QuotedLine::add(std::string_view field) {
-    line_.append(line_.empty() ? "\"" : ",\"").append(field).append("\"");
+    char* to = room_for(field.size() + 3);
+    if (size_ > 0) {
+        *to++ = ',';
+    }
+    end_at(copy_field(field, to));
     return *this;
 }
 
 QuotedLine& QuotedLine::add_written(std::string_view fields) {
-    if (!line_.empty()) {
-        line_ += ',';
+    char* to = room_for(fields.size() + 1);
+    if (size_ > 0) {
+        *to++ = ',';
     }
-    line_.append(fields);
+    end_at(std::copy(fields.begin(), fields.end(), to));
     return *this;
 }
 
@@ -198,6 +214,18 @@ void RowReader::read() {
     for (std::string_view& column : row_) {
         column = kept_.emplace_back(fields_.next());
     }
+}
+
+void RowReader::add_columns(std::size_t first, std::size_t last, QuotedLine& line) const {
+    if (written_line_.empty()) {
+        for (std::size_t column = first; column <= last; ++column) {
+            line.add(row_[column]);
+        }
+        return;
+    }
+    const char* const begin = row_[first].data() - 1;
+    const char* const end = row_[last].data() + row_[last].size() + 1;
+    line.add_written({begin, static_cast<std::size_t>(end - begin)});
 }
 
 }  // namespace veldrana

@@ -33,10 +33,17 @@ class QuotedLine {
     QuotedLine& clear() noexcept;
     QuotedLine& add(std::string_view field);
     QuotedLine& add_written(std::string_view fields);
-    std::string_view text() const noexcept { return line_; }
+    std::string_view text() const noexcept { return {buffer_.data(), size_}; }
 
   private:
-    std::string line_;
+    // Where the next bytes go, with room for so many of them.
+    char* room_for(std::size_t count);
+    void end_at(const char* end) noexcept {
+        size_ = static_cast<std::size_t>(end - buffer_.data());
+    }
+
+    std::vector<char> buffer_;
+    std::size_t size_ = 0;  // of the line
 };
 
 // The fields of one line as views of it; an empty line has one empty field. Valid as long as the
@@ -100,12 +107,8 @@ class RowReader {
     // field in quotes. Else empty. A stage that changes nothing of a row writes this.
     std::string_view written_line() const noexcept { return written_line_; }
 
-    // The columns from first to last as they would be written. Only for a row with a written line.
-    std::string_view written_columns(std::size_t first, std::size_t last) const noexcept {
-        const char* const begin = row_[first].data() - 1;
-        const char* const end = row_[last].data() + row_[last].size() + 1;
-        return {begin, static_cast<std::size_t>(end - begin)};
-    }
+    // Adds the columns from first to last to a line, in one piece where the row has a written line.
+    void add_columns(std::size_t first, std::size_t last, QuotedLine& line) const;
 
     // By the columns' places from 0. Valid until the next call of read or at_end.
     std::string_view operator[](std::size_t column) const noexcept { return row_[column]; }

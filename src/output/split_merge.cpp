@@ -72,17 +72,10 @@ class ContestFileWriter {
     ContestFileWriter(const Stage& stage, const OutputRequest& request)
         : output_(stage.open_output(request.names.out_name_conj0)) {}
 
-    // A keyed row; date and time get the form that they have in the result. Columns that stay side
-    // by side go over in one piece where they stand as they are written.
+    // A keyed row; date and time get the form that they have in the result.
     void write(const RowReader& keyed, std::string_view gl) {
         const auto add = [&](std::size_t first, std::size_t last) {
-            if (!keyed.written_line().empty()) {
-                line_.add_written(keyed.written_columns(first + 1, last + 1));
-                return;
-            }
-            for (std::size_t column = first; column <= last; ++column) {
-                line_.add(keyed[column + 1]);
-            }
+            keyed.add_columns(first + 1, last + 1, line_);
         };
         write_date(date_, keyed[contest_row::date + 1]);
         write_time(time_, keyed[contest_row::time + 1]);
