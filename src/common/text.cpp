@@ -221,7 +221,11 @@ std::string_view right(std::string_view text, Count count) {
     require_not_negative(count);
     const std::size_t all = length(text);
     const auto wanted = static_cast<std::size_t>(count);
-    return wanted >= all ? text : text.substr(offset_of(text, all - wanted));
+    if (wanted >= all) {
+        return text;
+    }
+    // With one byte to a character there is nothing to count.
+    return text.substr(all == text.size() ? all - wanted : offset_of(text, all - wanted));
 }
 
 std::string_view mid(std::string_view text, Count start) {

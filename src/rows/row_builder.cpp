@@ -175,8 +175,9 @@ void RowBuilder::decide_marks() {
 void RowBuilder::ask_sources(const RowReader& coded) {
     const StationSources& sources = request_.sources;
     const bool portable = !contact_.portable.empty();
+    // A source that is asked for one contact of a run is asked for all, so nothing is left over of
+    // the contact before.
     Candidates& found = contact_.candidates;
-    found = {};
     if (sources.name_mas != nullptr && options_.Check03) {
         found.name_mas = sources.name_mas->find(contact_.call_base);
     }

@@ -16,6 +16,10 @@ void write_date(std::string& text, std::string_view date) {
 }
 
 void write_time(std::string& text, std::string_view time) {
+    if (time.size() == 5 && is_ascii(time)) {
+        text.assign(time.substr(0, 2)).append(":").append(time.substr(2));
+        return;
+    }
     text.assign(left(time, 2)).append(":").append(right(time, 3));
 }
 
