@@ -18,11 +18,10 @@ namespace {
 constexpr std::size_t full_path_width = 60;
 constexpr std::size_t shortened_path_width = 49;
 
-void show_dat_file(Program& program) {
-    const std::string& path = program.selection.dat.dat_in_name;
+void show_dat_file(MainScreen& screen, const std::string& path) {
     const std::string shown =
         LenMbcs(path) > full_path_width ? shortened_path(path, shortened_path_width) : path;
-    for (Label* const label : {&program.screen.lblDatName, &program.screen.Label37}) {
+    for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
         label->show(shown, colours::blue);
     }
 }
@@ -52,7 +51,7 @@ void take_choice(Program& program, const ContestDialogResult& result) {
         return;
     }
     keep_dat_file(program);
-    show_dat_file(program);
+    show_dat_file(program.screen, result.shown_path);
     program.screen.enable_dat_viewers(true);
     check_readiness(program);
     if (!result.dat_is_there) {
@@ -135,7 +134,7 @@ void mnuOpenDat_mnu_Click(Program& program) {
             return;
         }
         program.screen.enable_dat_viewers(true);
-        show_dat_file(program);
+        show_dat_file(program.screen, program.selection.dat.dat_in_name);
         if (program.log.f_type == InputKind::all) {
             show_contest_of_file(program);
         }

@@ -322,5 +322,48 @@ TEST_F(BatchProgram, TraceLogOfAnUneventfulRunGoesIfItNeedNotBeKept) {
     EXPECT_TRUE(fs::is_empty(home / "Error_Log"));
 }
 
+// --- the contest of a log ---
+
+class BatchContest : public BatchProgram {
+  protected:
+    BatchContest() { write_bytes(scratch.path() / "zlog" / "westcity.dat", "heading\r\n"); }
+
+    ProcessResult convert_with(const std::string& contest) {
+        return run({"--set", "Option02=2", "convert", log.string(), "--contest", contest});
+    }
+};
+
+TEST_F(BatchContest, ThatIsInTheListIsTaken) {
+    const ProcessResult ended = convert_with("westcity.dat");
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_EQ(ended.results, ten_counters);
+}
+
+TEST_F(BatchContest, ThatIsNotInTheListIsRefused) {
+    const ProcessResult ended = convert_with("nowhere.dat");
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_THAT(ended.messages, HasSubstr("コンテスト一覧にありません: nowhere.dat"));
+}
+
+TEST_F(BatchContest, WithoutItsFileIsRefusedWithTheVerdict) {
+    fs::remove(scratch.path() / "zlog" / "westcity.dat");
+    const ProcessResult ended = convert_with("westcity.dat");
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_THAT(ended.messages, HasSubstr("選択された個別ＤＡＴが設定フォルダに無し！"));
+    EXPECT_EQ(ended.results, "");
+}
+
+TEST_F(BatchContest, NeedsItsCodeSource) {
+    const ProcessResult ended = run({"convert", log.string(), "--contest", "westcity.dat"});
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_THAT(ended.messages, HasSubstr("Option02=2"));
+}
+
+TEST_F(BatchContest, IsAskedForWhereCodesComeFromAFile) {
+    const ProcessResult ended = run({"--set", "Option02=2", "convert", log.string()});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_THAT(ended.messages, HasSubstr("ﾒﾆｭｰからDATﾌｧｲﾙを指定して下さい。"));
+}
+
 }  // namespace
 }  // namespace veldrana
