@@ -18,7 +18,8 @@ constexpr Count yubin_key_length = 6;
 
 void CodeTable::read(const Stage& stage, std::string_view path) {
     rows_.clear();
-    read_master(stage, path, HeadingsAlone::allowed, [this](const FixedColumns& record) {
+    read_master(stage, path, HeadingsAlone::allowed, [this](std::string_view line) {
+        const FixedColumns record(line);
         rows_.add(upper(column_text(record, master_key)),
                   {.code = column_text(record, code_column), .qth = column_text(record, qth_)});
     });

@@ -29,7 +29,7 @@ enum class HeadingsAlone { fail, allowed };
 // Hands over the records in the order of the file. Failure 62 where a heading is missing, and for a
 // master of headings alone that is to fail.
 void read_master(const Stage& stage, std::string_view path, HeadingsAlone headings_alone,
-                 const std::function<void(const FixedColumns& record)>& take);
+                 const std::function<void(std::string_view record)>& take);
 
 // Shows on the status line that a file is being read; its colour stays.
 void show_reading(const Stage& stage, std::string_view file);

@@ -12,7 +12,7 @@
 
 namespace veldrana {
 
-// Whether the name master is to be loaded and asked: its option is on and its folder is set.
+// Whether the name master is to be asked: its option is on and its folder is set.
 bool uses_name_mas(const RunOptions& options, const EnvironmentSettings& environment);
 
 // Lives as long as the pass over the contacts. A master is there if its option is on and, for

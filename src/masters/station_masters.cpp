@@ -16,28 +16,29 @@ constexpr StationColumns user_text_columns{
 constexpr StationColumns qth_mas_columns{
     .name = {8, 12}, .code = {20, 6}, .qth = {26, 28}, .gl = {54, 6}, .rmks = {}};
 
-StationData copy_of(const StationData* found) {
-    return found == nullptr ? StationData{} : *found;
-}
-
 }  // namespace
 
 void StationTable::read(const Stage& stage, std::string_view path) {
     show_reading(stage, split_path(path).name);
     rows_.clear();
-    read_master(stage, path, HeadingsAlone::fail, [this](const FixedColumns& record) {
-        rows_.add(upper(column_text(record, master_key)),
-                  {.name = column_text(record, columns_.name),
-                   .code = column_text(record, columns_.code),
-                   .qth = column_text(record, columns_.qth),
-                   .gl = column_text(record, columns_.gl),
-                   .rmks = column_text(record, columns_.rmks)});
+    read_master(stage, path, HeadingsAlone::fail, [this](std::string_view record) {
+        rows_.add(upper(FixedColumns(record).trimmed(master_key.start, master_key.width)),
+                  std::string(record));
     });
     show_read(stage);
 }
 
-const StationData* StationTable::find(std::string_view call) const {
-    return rows_.find(upper(trim(call)));
+std::optional<StationData> StationTable::find(std::string_view call) const {
+    const std::string* const line = rows_.find(upper(trim(call)));
+    if (line == nullptr) {
+        return std::nullopt;
+    }
+    const FixedColumns record(*line);
+    return StationData{.name = column_text(record, columns_.name),
+                       .code = column_text(record, columns_.code),
+                       .qth = column_text(record, columns_.qth),
+                       .gl = column_text(record, columns_.gl),
+                       .rmks = column_text(record, columns_.rmks)};
 }
 
 NameMas::NameMas() : table_(user_text_columns) {}
@@ -53,7 +54,7 @@ void NameMas::read_name_mas_txt(const Stage& stage, std::string_view name_mas_di
 }
 
 StationData NameMas::find(std::string_view call_base) {
-    return copy_of(table_.find(call_base));
+    return table_.find(call_base).value_or(StationData{});
 }
 
 QthMas::QthMas(std::string path) : path_(std::move(path)), table_(qth_mas_columns) {}
@@ -64,7 +65,7 @@ void QthMas::prepare(const Stage& stage) {
 }
 
 StationData QthMas::find(std::string_view call_base) {
-    return copy_of(table_.find(call_base));
+    return table_.find(call_base).value_or(StationData{});
 }
 
 UserText::UserText(Letter letter, std::string path, std::size_t& hits)
@@ -78,11 +79,11 @@ void UserText::prepare(const Stage& stage) {
 }
 
 StationData UserText::find(std::string_view call_base) {
-    const StationData* const found = table_.find(call_base);
-    if (found != nullptr) {
+    const std::optional<StationData> found = table_.find(call_base);
+    if (found) {
         ++hits_;
     }
-    return copy_of(found);
+    return found.value_or(StationData{});
 }
 
 }  // namespace veldrana

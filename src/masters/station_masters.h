@@ -15,6 +15,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -40,12 +41,13 @@ class StationTable {
     // Replaces what it holds by the records of a file, and shows meanwhile that it reads.
     void read(const Stage& stage, std::string_view path);
 
-    // Null if no record has that call.
-    const StationData* find(std::string_view call) const;
+    // Nothing if no record has that call.
+    std::optional<StationData> find(std::string_view call) const;
 
   private:
     StationColumns columns_;
-    FirstRows<StationData> rows_;
+    // Whole lines: a run asks for few of them, and these are cut into their columns then.
+    FirstRows<std::string> rows_;
 };
 
 // name_mas.txt, loaded once as long as the program runs.
