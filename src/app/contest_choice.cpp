@@ -3,7 +3,7 @@
 #include <string>
 
 #include "app/chosen_log.h"
-#include "app/option_handlers.h"
+#include "app/work_files.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
@@ -32,16 +32,12 @@ void keep_dat_file(Program& program) {
     program.settings.write_dat_ini();
 }
 
-bool dat_is_there(Program& program) {
-    return has_dat(program) && program.disk.file_exists(program.selection.dat.dat_in_name);
-}
-
 // What the dialog left undecided stands as the file that is there tells.
 void enable_by_presence(Program& program) {
-    const bool there = dat_is_there(program);
+    const bool there = has_dat(program) &&
+                       dat_file_chk(program.stage(), dat_folders(program), program.selection.dat);
     program.screen.enable_start(there);
     program.screen.enable_dat_viewers(there);
-    program.screen.Frame03.enabled = there;
 }
 
 void take_choice(Program& program, const ContestDialogResult& result) {
@@ -69,6 +65,9 @@ void show_contest_of_file(Program& program) {
                                 .Op04_Chk = [&program] { check_dat_of_options(program); }};
     switch (read_all_dat(program.stage(), request, program.selection, program.refusals)) {
         case AllDat::found:
+            if (request.data_file_is_code_source) {
+                show_dat_file(screen, program.selection.dat.dat_in_name);
+            }
             break;
         case AllDat::refused:
             screen.Option02.enable_all(true);
@@ -105,6 +104,7 @@ void mnuOpenDat_semi_Click(Program& program) {
         return;
     }
     enter_procedure(program.trace, "Private Sub mnuOpenDat_semi_Click()", [&] {
+        program.settings.write_Veldrana_ini();
         frmCon_sel form(program.stage(), {.in_name = program.log.in_name,
                                           .f_type = program.log.f_type,
                                           .strPath = program.paths.strPath,
@@ -150,11 +150,34 @@ void cmdDisp_dat_Click(Program& program) {
 }
 
 void check_dat_of_options(Program& program) {
-    if (program.screen.Option04.index != 1 || !has_dat(program)) {
+    const MainScreen& screen = program.screen;
+    if (screen.Option02.index != 2 || screen.Option04.index != 1 || !has_dat(program)) {
         return;
     }
     program.selection.dat.rebuild_path();
     dat_file_chk(program.stage(), dat_folders(program), program.selection.dat);
+}
+
+void restore_dat(Program& program) {
+    program.settings.read_dat_ini();
+    DatFile& dat = program.selection.dat;
+    dat.dat_in_name = program.settings.set_dat_in_name;
+    const FilePath path = split_path(dat.dat_in_name);
+    dat.name = path.name;
+    dat.folder = path.folder;
+    if (has_dat(program)) {
+        show_dat_file(program.screen, dat.dat_in_name);
+    }
+}
+
+void forget_dat(Program& program) {
+    program.selection = {};
+    program.refusals = {};
+    program.settings.set_dat_in_name.clear();
+    remove_if_there(program, program.settings.path(dat_ini));
+    for (Label* const label : {&program.screen.lblDatName, &program.screen.Label37}) {
+        label->show("", colours::black);
+    }
 }
 
 void take_dat_of_run(Program& program) {

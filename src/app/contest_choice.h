@@ -25,6 +25,12 @@ void cmdDisp_dat_Click(Program& program);
 // With codes taken from the data file: rebuilds its path, and has its presence checked.
 void check_dat_of_options(Program& program);
 
+// Takes up the data file that the settings name, as a start does; its contest is not known then.
+void restore_dat(Program& program);
+
+// Ends the choice, with its contest and what was refused: it holds for one log.
+void forget_dat(Program& program);
+
 // The data file as a run takes it: read again from the settings, with its presence checked.
 void take_dat_of_run(Program& program);
 

@@ -243,12 +243,13 @@ bool cmdStart_1(Program& program) {
             program.person.show({.text = "どちらのユーザーテキストファイルか選択して下さい！"});
             return false;
         }
-        if (wants_history(screen)) {
+        if (program.run_mode == RunMode::conversion && wants_history(screen)) {
             program.person.show({.text = "No QSL の判定はまだ使えません。\n"
                                          "「この機能は無効にする」を選んで下さい。"});
             return false;
         }
 
+        check_dat_of_options(program);
         program.counters.clear_search();
         screen.lblIn_rec_count.caption = "";
         screen.lblMsg.caption = "";

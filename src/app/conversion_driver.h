@@ -14,7 +14,7 @@ namespace veldrana {
 void cmdStart_Click(Program& program);
 
 // A run. False if it stopped before it began, to ask for a choice: the text data of the log book is
-// on, both user texts are known and none is chosen.
+// on, both user texts are known and none is chosen; or the No QSL rule asks for a history.
 bool cmdStart_1(Program& program);
 
 // Shows how many records the chosen log has: the lines behind its heading.

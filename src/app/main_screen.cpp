@@ -24,8 +24,8 @@ void MainScreen::enable_dat_choice(bool on) {
 }
 
 void MainScreen::enable_dat_viewers(bool on) {
-    for (Control* const control :
-         std::initializer_list<Control*>{&mnuDisp_dat, &cmdDisp_dat, &cmdDisp_dat2, &tool_dat}) {
+    for (Control* const control : std::initializer_list<Control*>{
+             &mnuDisp_dat, &cmdDisp_dat, &cmdDisp_dat2, &tool_dat, &Frame03}) {
         control->enabled = on;
     }
 }

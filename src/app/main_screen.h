@@ -195,7 +195,7 @@ struct MainScreen : WindowForm {
 
     // Both ways to name a contest data file, and the choice between them.
     void enable_dat_choice(bool on);
-    // What shows the contest data file.
+    // What shows the contest data file, and its frame.
     void enable_dat_viewers(bool on);
 
   private:

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/chosen_log.h"
+#include "app/contest_choice.h"
 #include "app/option_handlers.h"
 #include "app/remark_slot_settings.h"
 #include "app/source_ranks.h"
@@ -45,7 +46,6 @@ void repair_no_qsl_letter(SettingsStore& settings) {
 void read_settings(SettingsStore& settings) {
     settings.read_Veldrana_new_ini();
     settings.read_Veldrana_cfg_ini();
-    settings.read_dat_ini();
     if (settings.options.Check26.empty()) {
         settings.options.Check26 = "1";
         settings.write_Veldrana_ini();
@@ -201,9 +201,10 @@ void Form_Load(Program& program) {
         repair_no_qsl_letter(program.settings);
         kettuka_disp(program.counters, screen);
         read_settings(program.settings);
-        program.selection.dat.dat_in_name = program.settings.set_dat_in_name;
+        restore_dat(program);
         get_hdb_name_bas(program);
         Disp_Rmks_cfg(program);
+        program.trace.write("ini_read_2");
         Option08_set(program);
         ini_read_2(program);
         Form_Load_2(program);

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/chosen_log.h"
+#include "app/contest_choice.h"
 #include "app/option_handlers.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
@@ -41,7 +42,7 @@ void open_text_log(Program& program, const std::string& path) {
     }
     log.chosen = path;
     program.disk.protect(path);
-    program.refusals = {};
+    forget_dat(program);
     log.in_name = path;
     program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);

@@ -306,7 +306,6 @@ void attach_option_handlers(Program& program) {
 }
 
 void ini_read_2(Program& program) {
-    program.trace.write("ini_read_2");
     constexpr std::array<std::string_view, 41> order{
         "Option01", "Option07", "Option02", "Option04", "Check10",  "Check06", "Option1",
         "Check01",  "Check15",  "Check16",  "Check17",  "Check18",  "Check19", "Check20",

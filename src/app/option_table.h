@@ -21,7 +21,7 @@ struct GroupOption {
 
 struct SwitchOption {
     CheckBox MainScreen::*control;
-    bool RunOptions::*option;              // null: no run reads it
+    bool RunOptions::*option;              // null: RunOptions has no field for it
     std::string OptionSettings::*setting;  // null: it lasts as long as the program
 };
 

@@ -7,6 +7,7 @@ namespace veldrana {
 
 void cmdDate_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub cmdDate_Click()", [&] {
+        program.settings.write_Veldrana_ini();
         frmDate form(program.settings, program.disk, program.clock, program.paths.strPath);
         form.period_changed = [&program] {
             program.screen.window.caption =

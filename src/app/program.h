@@ -63,6 +63,8 @@ struct Start {
     Reached reached = nothing;
     // The settings are those of an old version, which the environment dialog has to renew.
     bool old_version = false;
+    // The version that was found.
+    std::string version;
 };
 
 // The splash, up until the main screen is there.

@@ -28,7 +28,7 @@ void delete_work_files(Program& program) {
     each_of(paths.strPath, {"Veldrana.ini2"});
     each_of(paths.drive_path, {"semp_s.csv", "semp_d.csv", "uemp_s.csv", "temp_sj.csv"});
     each_of(program.log.in_Dir, {"zlog_?.txt", "zlog_01.txt"});
-    each_of(paths.strPath, {"Veldrana_dat.ini", "*.hdx"});
+    each_of(paths.strPath, {"*.hdx"});
     each_of(paths.drive_path, {"org_qsl.csv", "new_qsl_contest.csv", "new_qsl_hamlog.csv"});
     each_of(paths.strPath,
             {"bak_chk_?.txt", "hdb_chk_?.txt", "bak_qso.mas", "Master_2.txt", "rtcl_tmp.txt"});
@@ -57,7 +57,7 @@ void delete_uneventful_trace_log(Program& program) {
 void count_run(Program& program) {
     constexpr int runs_between_notes = 10;
     OptionSettings& options = program.settings.options;
-    const int runs = stored_number(options.exe_rec) + 1;
+    const long runs = long{stored_number(options.exe_rec)} + 1;
     options.exe_rec = std::to_string(runs);
     if (runs % runs_between_notes == 0) {
         program.person.show({.text = "たまには使用した感想などのレポート下さいね！"});
@@ -69,6 +69,8 @@ void count_run(Program& program) {
     if (!program.keep_work_files) {
         delete_work_files(program);
     }
+    // A setting for one program run, so it goes in any case.
+    pass_over_failures([&] { remove_if_there(program, program.settings.path(dat_ini)); });
     pass_over_failures([&] { count_run(program); });
     pass_over_failures([&] { program.trace.write("　*************  終了  *********"); });
     pass_over_failures([&] { program.trace.close(); });

@@ -11,8 +11,8 @@
 namespace veldrana {
 namespace {
 
-// A field of a row: its labels, its list, and the boxes that switch the sources on for it. A source
-// without a box there gives the field nothing.
+// A field of a row: its labels, its list, and the boxes that switch the sources on for it alone; a
+// name master has one box for all fields, and contest data hold no names.
 struct Field {
     RankLabels MainScreen::*labels;
     std::string OptionSettings::*list;

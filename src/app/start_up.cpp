@@ -58,7 +58,9 @@ void save_as_first_start(SettingsStore& settings) {
     settings.write_Veldrana_new_ini();
 }
 
-// Loads the files of options and environment, or makes what is missing.
+// Loads the files of options and environment. Without options they are those of a new file, which
+// is made; without an environment it is what is found in the usual folders, which the environment
+// dialog saves.
 void Check_ver(Program& program) {
     enter_procedure(program.trace, "Public Sub Check_ver()", [&] {
         SettingsStore& settings = program.settings;
@@ -84,6 +86,7 @@ void Check_ver(Program& program) {
 void check_versions(Program& program) {
     SettingsStore& settings = program.settings;
     // As it was found: writing the file brings the version up to date.
+    program.start.version = settings.version;
     const double found = settings.version_number();
     if (found * 1000 < first_with_environment_file) {
         settings.write_Veldrana_cfg_ini();

@@ -1,9 +1,11 @@
 #include "batch/batch_run.h"
 
+#include "app/contest_choice.h"
 #include "app/program.h"
 #include "app/program_end.h"
 #include "app/start_up.h"
 #include "batch/batch_person.h"
+#include "common/version.h"
 #include "platform/environment.h"
 #include "platform/host_disk.h"
 #include "readers/frmCon_sel.h"
@@ -99,7 +101,8 @@ class BatchProgram {
     bool is_ready() {
         const MainScreen& screen = program_.screen;
         if (!screen.cmdStart.enabled) {
-            output_.messages << screen.lblDatName.caption.get() << '\n';
+            output_.messages << (has_dat(program_) ? "個別ＤＡＴがありません: " : "")
+                             << screen.lblDatName.caption.get() << '\n';
         }
         return screen.cmdStart.enabled;
     }
@@ -140,13 +143,17 @@ class BatchProgram {
         std::ostream& messages = output_.messages;
         messages << "環境設定の確認が必要です: " << settings.path(cfg_ini) << '\n';
         if (program_.start.old_version) {
-            messages << "  古い版の設定です: version=" << settings.version << '\n';
+            messages << "  古い版の設定です (確認後に version=" << program_version
+                     << " と書き換えて下さい): version=" << program_.start.version << '\n';
+        }
+        if (!settings.exists(cfg_ini)) {
+            messages << "  設定ファイルがありません: " << cfg_ini << '\n';
         }
         const std::vector<std::string> missing = missing_entries(settings.environment);
         for (const std::string& key : missing) {
             messages << "  設定されていません: " << key << '\n';
         }
-        if (!program_.start.old_version && missing.empty()) {
+        if (!program_.start.old_version && missing.empty() && settings.exists(cfg_ini)) {
             messages << "  初めての起動で設定ファイルを作成しました。もう一度起動して下さい。\n";
         }
         messages << std::flush;

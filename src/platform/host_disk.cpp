@@ -479,14 +479,24 @@ void HostDisk::require_unprotected(const HostPath& path) const {
 
 void HostDisk::replace(std::string_view from, std::string_view to) {
     const HostPath source = require(from);
-    const HostPath place = target(to);
+    std::error_code error;
+    // Behind a link its file is replaced, and the link stays.
+    const HostPath named = target(to);
+    const HostPath behind = fs::canonical(named, error);
+    const HostPath& place = error ? named : behind;
     const std::string id = identity(place);
     if (open_files_->written.contains(id) || open_files_->read.contains(id)) {
         throw RunTimeError(Failure::already_open);
     }
     require_unprotected(source);
     require_unprotected(place);
-    std::error_code error;
+    // The file's own permissions stay; one that may not be written is not replaced either.
+    if (const fs::file_status status = fs::status(place, error); fs::exists(status)) {
+        if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) {
+            throw RunTimeError(Failure::permission_denied);
+        }
+        fs::permissions(source, status.permissions(), error);
+    }
     fs::rename(source, place, error);
     if (error) {
         fail(error.value());

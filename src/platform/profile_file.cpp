@@ -58,11 +58,7 @@ std::string in_one_line(std::string_view value) {
 
 ProfileFile::Line ProfileFile::make_line(std::string bytes) {
     Line line;
-    std::string_view content = bytes;
-    if (content.starts_with(byte_order_mark)) {
-        content.remove_prefix(byte_order_mark.size());
-    }
-    line.text = trim(from_code_page(content));
+    line.text = trim(from_code_page(bytes));
     const std::string_view text = line.text;
     const std::size_t bracket = text.find(']');
     if (text.starts_with('[') && bracket != std::string_view::npos) {
@@ -94,7 +90,9 @@ ProfileFile::ProfileFile(Disk& disk, std::string path) : disk_(disk), path_(std:
         if (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
-        lines_.push_back(make_line(std::string(line)));
+        const bool marked = lines_.empty() && line.starts_with(byte_order_mark);
+        lines_.push_back(make_line(std::string(line.substr(marked ? byte_order_mark.size() : 0))));
+        lines_.back().bytes = line;
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
 }

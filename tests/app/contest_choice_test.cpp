@@ -89,6 +89,7 @@ TEST_F(ContestChoice, BackLeavesTheChoiceAndGoesByWhatIsThere) {
     EXPECT_TRUE(screen.cmdStart.enabled);
     EXPECT_TRUE(screen.Frame03.enabled);
     kit.memory.remove("C:\\zLog\\acag.dat");
+    kit.person.answers = {Answer::retry};
     screen.mnuOpenDat_semi.press();
     EXPECT_FALSE(screen.cmdStart.enabled);
     EXPECT_FALSE(screen.tool_convert.enabled);
@@ -184,6 +185,42 @@ TEST_F(ContestChoice, AnotherSourceAndBackKeepsTheFile) {
     EXPECT_TRUE(has_dat(program));
     EXPECT_TRUE(screen.cmdStart.enabled);
     EXPECT_TRUE(screen.tool_dat.enabled);
+}
+
+TEST_F(ContestChoice, ManualWayShowsThePathOfTheList) {
+    kit.put_text("D:\\my_acag.dat", "heading\r\n");
+    kit.open("C:\\log\\x.all");
+    kit.person.files = {"D:\\my_acag.dat"};
+    screen.mnuOpenDat_mnu.press();
+    EXPECT_EQ(program.selection.dat.dat_in_name, "C:\\zLog\\acag.dat");
+    EXPECT_EQ(screen.lblDatName.caption.get(), "C:\\zLog\\acag.dat");
+}
+
+TEST_F(ContestChoice, RunAsksForAFileThatHasGoneBeforeItBegins) {
+    screen.Option04.index = 1;
+    kit.open("C:\\log\\x.all");
+    confirm("acag.dat");
+    kit.memory.remove("C:\\zLog\\acag.dat");
+    screen.cmdStart.press();
+    EXPECT_EQ(program.ended(), ProgramEnd::Cause::refused);
+    EXPECT_FALSE(kit.memory.file_exists("C:\\log\\zlog_1.txt"));
+}
+
+// A run that failed has left its file: the start goes on with what it names.
+TEST(ContestDataLeftOver, AreTakenUpByAStartThatTakesTheCode) {
+    ProgramKit kit;
+    kit.put_text("C:\\zLog\\acag.dat", "heading\r\n");
+    kit.put_text("C:\\veldrana\\Veldrana_dat.ini",
+                 "[DAT_MAS]\r\nset_dat_in_name=C:\\zLog\\acag.dat\r\n");
+    ProfileFile options(kit.memory, "C:\\veldrana\\Veldrana_new.ini");
+    options.set_value(new_ini, "Option04", "1");
+    options.set_value(new_ini, "Option02", "2");
+    ASSERT_TRUE(options.save());
+    ASSERT_TRUE(kit.start());
+    EXPECT_THAT(kit.person.boxes, IsEmpty());
+    EXPECT_EQ(kit.program->selection.dat.name, "acag.dat");
+    EXPECT_EQ(kit.program->selection.dat.folder, "C:\\zLog\\");
+    EXPECT_EQ(kit.screen().lblDatName.caption.get(), "C:\\zLog\\acag.dat");
 }
 
 // --- the checks of a start ---

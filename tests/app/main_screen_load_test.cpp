@@ -185,6 +185,38 @@ TEST_F(LoadAgain, CountersOfTheLastRunAreShown) {
     EXPECT_EQ(screen.MSFlexGrid1.cell(0, 1).text, "2");
 }
 
+TEST_F(LoadAgain, OptionsAreReadFromTheirFile) {
+    put_option(kit, "Check06", "1");
+    put_option(kit, "Option06", "1");
+    load();
+    EXPECT_TRUE(screen.Check06.value);
+    EXPECT_EQ(screen.Option06.index, 1);
+}
+
+TEST_F(LoadAgain, EnvironmentIsReadFromItsFile) {
+    put_entry(kit, "MyCalls", "JR8YYX");
+    put_entry(kit, "hamlog_hdb_dir", "D:\\radio\\MyLogBook.hdb");
+    load();
+    EXPECT_THAT(screen.lblMyCalls.caption.get(), HasSubstr("JR8YYX"));
+    EXPECT_EQ(kit.program->hdb_name, "MyLogB.hdb");
+    EXPECT_EQ(kit.program->paths.drive_path, "D:\\");
+}
+
+TEST_F(LoadAgain, ContestDataAreReadFromTheirFile) {
+    put_value(kit, dat_ini, "DAT_MAS", "set_dat_in_name", "C:\\zLog\\acag.dat");
+    load();
+    EXPECT_EQ(kit.program->settings.set_dat_in_name, "C:\\zLog\\acag.dat");
+}
+
+// Behind the environment dialog; a normal start has saved it before.
+TEST_F(LoadTest, SnapshotIsSavedByTheFirstLoad) {
+    put_entry(kit, "zlo_dir", "");
+    kit.start();
+    ASSERT_FALSE(kit.memory.file_exists("C:\\veldrana\\Veldrana.ini"));
+    kit.program->event([this] { show_main_screen(*kit.program); });
+    EXPECT_EQ(kit.stored(snapshot_ini, snapshot_ini, "Check4"), "1");
+}
+
 // --- what the environment allows ---
 
 TEST_F(LoadTest, WithoutANameMasterItsUseIsDisabled) {
@@ -424,6 +456,12 @@ TEST_F(LoadTest, APriorityWithBlankPlacesIsShownAsItStands) {
     put_value(kit, new_ini, "DAT_MAS", "code_yusen_jun", "name_mas,,,");
     kit.start();
     EXPECT_THAT(captions(screen.lblCode), ElementsAre("name_mas", "", "", ""));
+}
+
+TEST_F(LoadTest, APriorityOfOneSourceLeavesTheOtherPlacesBlank) {
+    put_value(kit, new_ini, "DAT_MAS", "qth_yusen_jun", "qth_mas");
+    kit.start();
+    EXPECT_THAT(captions(screen.lblQth), ElementsAre("qth_mas", "", "", ""));
 }
 
 TEST_F(LoadTest, TheOldNameOfTheTextDataIsReplacedAndSaved) {
@@ -944,6 +982,7 @@ TEST_F(LoadTest, AnyEmptyListBringsTheFallback) {
         put_option(other, "Rmks1_cfg", "memo,,,,,,");
         put_option(other, "Rmks1_cfg_len", "5,0,0,0,0,0,");
         put_option(other, "Rmks2_cfg", "Rcvd,OP,,,,,");
+        put_option(other, "Rmks2_cfg_len", "7,9,0,0,0,0,");
         put_option(other, empty, "");
         other.start();
         EXPECT_THAT(captions(other.screen().lblRmks1),
@@ -1035,6 +1074,29 @@ TEST_F(LoadTest, SlotsComeBackAfterARestart) {
     NextStart next(kit);
     EXPECT_EQ(next.screen.lblRmks1[0].caption.get(), "memo");
     EXPECT_EQ(next.screen.lblRmks2[2].caption.get(), "Rcvd");
+}
+
+TEST_F(LoadTest, ItemPutIntoASlotByHandShowsItsUse) {
+    kit.start();
+    screen.find("lblRmks1(3)")->enter("OP");
+    EXPECT_TRUE(screen.Command1[2].in_use);
+    screen.find("lblRmks1(3)")->enter("");
+    EXPECT_FALSE(screen.Command1[2].in_use);
+}
+
+TEST_F(LoadTest, ARunStoresTheSlotsClosedUp) {
+    kit.put_text("C:\\log\\x.all", sample_all_log);
+    put_option(kit, "Rmks1_cfg", "ｺﾝﾃｽﾄ,,,memo,,,");
+    put_option(kit, "Rmks1_cfg_len", "0,0,0,6,0,0,");
+    put_option(kit, "Rmks2_cfg", ",,Rcvd,,,,");
+    put_option(kit, "Rmks2_cfg_len", "0,0,3,0,0,0,");
+    kit.start();
+    kit.open("C:\\log\\x.all");
+    screen.cmdStart.press();
+    EXPECT_EQ(kit.stored(snapshot_ini, snapshot_ini, "Rmks1_cfg"), "ｺﾝﾃｽﾄ,memo,,,,,");
+    EXPECT_EQ(kit.stored(snapshot_ini, snapshot_ini, "Rmks1_cfg_len"), "0,6,0,0,0,0,");
+    EXPECT_EQ(kit.stored(snapshot_ini, snapshot_ini, "Rmks2_cfg"), "Rcvd,,,,,,");
+    EXPECT_EQ(kit.stored(snapshot_ini, snapshot_ini, "Rmks2_cfg_len"), "3,0,0,0,0,0,");
 }
 
 // --- tabs ---

@@ -834,6 +834,20 @@ TEST_F(OptionTest, WithoutACodeSourceTheMenusOfContestDataRest) {
     EXPECT_FALSE(screen.mnuOpenDat_semi.enabled);
 }
 
+TEST_F(OptionTest, WithoutACodeSourceTheChoicesOfContestDataRest) {
+    screen.Option02.index = 2;
+    screen.Option02.index = 0;
+    EXPECT_FALSE(screen.Frame11.enabled);
+    EXPECT_FALSE(is_enabled(screen.Option04, 0));
+    EXPECT_FALSE(is_enabled(screen.Option04, 1));
+}
+
+TEST_F(OptionTest, ContestDataWithoutAFileCannotBeLookedAt) {
+    screen.Option02.index = 2;
+    EXPECT_FALSE(screen.mnuDisp_dat.enabled);
+    EXPECT_FALSE(screen.cmdDisp_dat.enabled);
+}
+
 // A contest data file is chosen.
 class ContestData : public testing::Test {
   protected:
@@ -850,6 +864,12 @@ TEST_F(ContestData, ThatAreChosenAreNotAskedFor) {
     screen.Option02.index = 2;
     EXPECT_NE(screen.lblDatName.caption.get(), ask_for_dat_text);
     EXPECT_NE(screen.Label37.caption.get(), ask_for_dat_text);
+}
+
+TEST_F(ContestData, ThatAreChosenCanBeLookedAt) {
+    screen.Option02.index = 2;
+    EXPECT_TRUE(screen.mnuDisp_dat.enabled);
+    EXPECT_TRUE(screen.cmdDisp_dat.enabled);
 }
 
 TEST_F(ContestData, StayChosenWhileAnotherSourceIsLookedAt) {
@@ -960,6 +980,13 @@ TEST_F(OptionTest, RanksOfContestDataFollowTheChoiceToTakeTheCode) {
     screen.Option04.index = 0;
     EXPECT_EQ(colour_of(screen.lblCode, "dat_mas"), off_colour);
     EXPECT_EQ(colour_of(screen.lblQth, "dat_mas"), off_colour);
+}
+
+// Contest data give no names.
+TEST_F(OptionTest, RankOfContestDataAmongTheNamesDoesNotFollowIt) {
+    const Colour before = colour_of(screen.lblName, "dat_mas");
+    screen.Option04.index = 1;
+    EXPECT_EQ(colour_of(screen.lblName, "dat_mas"), before);
 }
 
 // The boxes of the fields rest while their source is not used at all.
@@ -1170,6 +1197,8 @@ TEST_F(Readiness, IsThereWithALogAndContestData) {
     start_with_dat(true);
     kit.open("C:\\log\\x.all");
     screen.Option02.index = 2;
+    kit.person.files = {"C:\\zLog\\acag.dat"};
+    screen.mnuOpenDat_mnu.press();
     expect_ready(true);
 }
 
@@ -1187,11 +1216,14 @@ TEST_F(Readiness, NeedsALogWithEveryCodeSource) {
     }
 }
 
-TEST_F(Readiness, ALogChosenBehindContestDataMakesReady) {
+// The choice of a contest holds for one log.
+TEST_F(Readiness, AnotherLogNeedsItsOwnContestData) {
     start_with_dat(true);
     screen.Option02.index = 2;
     kit.open("C:\\log\\x.all");
-    expect_ready(true);
+    expect_ready(false);
+    EXPECT_EQ(screen.lblDatName.caption.get(), ask_for_dat_text);
+    EXPECT_FALSE(kit.memory.file_exists("C:\\veldrana\\Veldrana_dat.ini"));
 }
 
 TEST_F(Readiness, ALogChosenBehindTheSourceWaitsForContestData) {
