@@ -180,10 +180,11 @@ void forget_dat(Program& program) {
     }
 }
 
-void take_dat_of_run(Program& program) {
+std::string take_dat_of_run(Program& program) {
     program.settings.read_dat_ini();
     program.selection.dat.dat_in_name = program.settings.set_dat_in_name;
     dat_file_of_run(program.stage(), dat_folders(program), program.selection.dat);
+    return program.selection.dat.dat_in_name;
 }
 
 }  // namespace veldrana

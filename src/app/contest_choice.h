@@ -31,8 +31,9 @@ void restore_dat(Program& program);
 // Ends the choice, with its contest and what was refused: it holds for one log.
 void forget_dat(Program& program);
 
-// The data file as a run takes it: read again from the settings, with its presence checked.
-void take_dat_of_run(Program& program);
+// The data file as a run takes it: read again from the settings, with its presence checked. Gives
+// its path.
+std::string take_dat_of_run(Program& program);
 
 // Where contest data files lie.
 DatFolders dat_folders(const Program& program);

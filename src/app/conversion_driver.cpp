@@ -124,8 +124,7 @@ void run_code_stage(Program& program, const RunOptions& options) {
             bak_sep0(stage, {in_Dir, options, program.hl_code_mas});
             break;
         case 2:
-            take_dat_of_run(program);
-            bak_sep2(stage, {in_Dir, options, program.selection.dat.dat_in_name,
+            bak_sep2(stage, {in_Dir, options, [&program] { return take_dat_of_run(program); },
                              program.selection.Code_flag, program.dat_table});
             break;
         case 3: {

@@ -164,7 +164,7 @@ void bak_sep1(const Stage& stage, const YubinRequest& request) {
 void bak_sep2(const Stage& stage, const DatRequest& request) {
     enter_procedure(stage.trace, "Private Sub bak_sep2()", [&] {
         ContactCoding contacts(stage, request.in_Dir, request.options);
-        request.table.load(stage, request.dat_in_name);
+        request.table.load(stage, request.dat_in_name());
         DatCoder coder(request);
         contacts.run({.find_code = [&](std::string_view call, std::string_view number) {
             return coder.find(call, number);

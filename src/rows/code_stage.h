@@ -7,6 +7,8 @@
 // it stands, but by bak_sep3, which trims it.
 #pragma once
 
+#include <functional>
+#include <string>
 #include <string_view>
 
 #include "masters/code_source.h"
@@ -44,7 +46,9 @@ void bak_sep1(const Stage& stage, const YubinRequest& request);
 struct DatRequest {
     std::string_view in_Dir;
     const RunOptions& options;
-    std::string_view dat_in_name;  // as the check of the file's presence has left it
+    // The path of the file as the check of its presence leaves it; asked for when the stage has
+    // opened its own files.
+    std::function<std::string()> dat_in_name;
     std::string_view Code_flag;
     DatTable& table;
 };

@@ -502,7 +502,7 @@ class DatStage : public CodeStageWithMaster {
         put_contacts(contacts);
         bak_sep2(stage, {.in_Dir = "C:\\log\\",
                          .options = options,
-                         .dat_in_name = "C:\\zlog\\x.dat",
+                         .dat_in_name = [] { return std::string("C:\\zlog\\x.dat"); },
                          .Code_flag = Code_flag,
                          .table = table});
     }
@@ -647,7 +647,7 @@ TEST_F(CodeStageWithMaster, LogWithoutAContactReadsPastTheEndInEveryStage) {
     EXPECT_EQ(failure_of([&] {
                   bak_sep2(stage, {.in_Dir = "C:\\log\\",
                                    .options = options,
-                                   .dat_in_name = "C:\\zlog\\x.dat",
+                                   .dat_in_name = [] { return std::string("C:\\zlog\\x.dat"); },
                                    .Code_flag = "11",
                                    .table = table});
               }),
