@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
-"""Writes the sample logs below logs/. The same files come out on every run.
+"""Writes the sample logs and masters. The same files come out on every run.
 
-Every call sign is made up by chance; a likeness to a licensed station is chance as well.
+Every call sign and person is made up by chance; a likeness to a real one is chance as well.
 """
 
-import random
 from dataclasses import dataclass
-from pathlib import Path
 
-LOGS = Path(__file__).resolve().parent / "logs"
+from masters import home_calls, make_person, write_call_masters, write_fixed_masters
+from sample_files import Dice, padded, write_lines
+
 SEED = 20250427
 
 # Prefecture numbers by call area. Area 8 counts its sub-prefectures.
@@ -76,22 +76,6 @@ MEMOS = [
     "IC-705",
     "NEW ONE?",
 ]
-
-
-class Dice:
-    """Chance that falls the same way in every version of Python."""
-
-    def __init__(self, seed: int):
-        self._random = random.Random(seed)
-
-    def below(self, limit: int) -> int:
-        return int(self._random.random() * limit)
-
-    def pick(self, things):
-        return things[self.below(len(things))]
-
-    def happens(self, percent: int) -> bool:
-        return self.below(100) < percent
 
 
 @dataclass(frozen=True)
@@ -233,13 +217,6 @@ def memo_column(dice: Dice, contact: Contact) -> str:
     return " ".join(words)
 
 
-def padded(text: str, width: int) -> str:
-    """Filled with blanks to a width counted in bytes of Shift_JIS."""
-    missing = width - len(text.encode("cp932"))
-    assert missing >= 0, f"{text} is wider than {width}"
-    return text + " " * missing
-
-
 def all_line(dice: Dice, contact: Contact, start: tuple[int, int, int, int]) -> str:
     year, month, day, hour = start
     hours, minute = divmod(contact.minute, 60)
@@ -283,13 +260,7 @@ def txt_line(dice: Dice, contact: Contact, start: tuple[int, int, int, int]) -> 
     return columns + " " + memo_column(dice, contact)
 
 
-def write_log(name: str, heading: str, lines: list[str]) -> None:
-    LOGS.mkdir(exist_ok=True)
-    text = "".join(line + "\r\n" for line in [heading, *lines])
-    (LOGS / name).write_bytes(text.encode("cp932"))
-
-
-def make_allja_sample() -> None:
+def make_allja_sample() -> list[Station]:
     dice = Dice(SEED)
     stations = make_stations(dice, 150, portable_percent=12, with_cities=False)
     stations += [Station("JA1ZZ/1", "12", "P"), Station("JR8YYX/1", "14", "M")]
@@ -299,10 +270,11 @@ def make_allja_sample() -> None:
     contacts = make_contacts(dice, stations, 340, Plan(first_hour=21, minutes=24 * 60))
     start = (2025, 4, 26, 21)
     lines = [all_line(dice, contact, start) for contact in contacts]
-    write_log("allja_sample.all", "zLog for Windows ", lines)
+    write_lines("logs/allja_sample.all", ["zLog for Windows ", *lines])
+    return stations
 
 
-def make_field_sample() -> None:
+def make_field_sample() -> list[Station]:
     dice = Dice(SEED + 1)
     stations = make_stations(dice, 80, portable_percent=45, with_cities=True)
     # 21:00 to 14:59 of the next day, in a month of one digit
@@ -310,9 +282,18 @@ def make_field_sample() -> None:
     start = (2025, 8, 2, 21)
     lines = [txt_line(dice, contact, start) for contact in contacts]
     heading = "mon day time  callsign      sent              rcvd      multi   MHz mode pts memo"
-    write_log("field_sample.txt", heading, lines)
+    write_lines("logs/field_sample.txt", [heading, *lines])
+    return stations
+
+
+def make_call_masters(stations: list[Station]) -> None:
+    dice = Dice(SEED + 2)
+    strangers = [make_call(dice, dice.pick(AREAS)) for _ in range(100)]
+    by_call_area = PREFECTURES | {"8": ["01"]}
+    calls = home_calls([station.call for station in stations] + strangers)
+    write_call_masters(dice, [make_person(dice, call, by_call_area) for call in calls])
 
 
 if __name__ == "__main__":
-    make_allja_sample()
-    make_field_sample()
+    write_fixed_masters()
+    make_call_masters(make_allja_sample() + make_field_sample())
