@@ -10,7 +10,7 @@ rounds=${1:-3}
 program=build/bin/veldrana-batch
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-cp -r samples/veldrana "$work"
+cp -r samples/{veldrana,mas,yubin} "$work"
 log="$work/x.all"
 
 # The best time of a command in seconds.
