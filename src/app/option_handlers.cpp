@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
 
 #include "app/chosen_log.h"
@@ -238,20 +239,25 @@ void select_stored(Program& program, const SwitchOption& option) {
     (program.screen.*option.control).value = stored_number(stored) != 0;
 }
 
-template <class Options>
-auto find_option(const MainScreen& screen, const Options& options, std::string_view name) {
-    return std::find_if(options.begin(), options.end(), [&](const auto& option) {
+// Null if no option of this kind has that name.
+template <class Option>
+const Option* find_option(const MainScreen& screen, std::span<const Option> options,
+                          std::string_view name) {
+    const auto found = std::find_if(options.begin(), options.end(), [&](const Option& option) {
         return (screen.*option.control).name() == name;
     });
+    return found == options.end() ? nullptr : &*found;
 }
 
 void select_stored(Program& program, std::string_view name) {
-    const auto group = find_option(program.screen, group_options(), name);
-    if (group != group_options().end()) {
+    if (const GroupOption* const group = find_option(program.screen, group_options(), name)) {
         select_stored(program, *group);
-        return;
+    } else if (const SwitchOption* const one =
+                   find_option(program.screen, switch_options(), name)) {
+        select_stored(program, *one);
+    } else {
+        throw RunTimeError(Failure::internal);
     }
-    select_stored(program, *find_option(program.screen, switch_options(), name));
 }
 
 void set_user_text(Program& program, const UserText& text) {
@@ -324,7 +330,11 @@ void Option08_set(Program& program) {
 
 void run_option_handlers(Program& program) {
     const auto click = [&program](std::string_view name) {
-        option_clicked(program, *find_option(program.screen, group_options(), name));
+        const GroupOption* const group = find_option(program.screen, group_options(), name);
+        if (group == nullptr) {
+            throw RunTimeError(Failure::internal);
+        }
+        option_clicked(program, *group);
     };
     select_stored(program, "Option1");
     for (const std::string_view name : {"Option1", "Option02", "Option03", "Option04"}) {

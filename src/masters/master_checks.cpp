@@ -5,6 +5,7 @@
 #include "common/text.h"
 #include "masters/ending_boxes.h"
 #include "settings/environment_settings.h"
+#include "settings/hosts.h"
 
 namespace veldrana {
 namespace {
@@ -80,18 +81,26 @@ std::ptrdiff_t lines_of(const Stage& stage, const std::string& path) {
     return lines;
 }
 
-std::string count_text(const std::vector<MasterCount>& counts, bool has_name_mas_txt) {
-    std::string text;
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-        text += i == 0 ? "" : "\n\n";
-        text += counts[i].name;
-        text += i == 0 && !has_name_mas_txt ? "　： ファイル無し"
-                                            : " の件数　： " + std::to_string(counts[i].records);
+std::vector<std::string> count_lines(const std::vector<MasterCount>& counts,
+                                     bool has_name_mas_txt) {
+    std::vector<std::string> lines;
+    for (const MasterCount& count : counts) {
+        const bool is_missing = lines.empty() && !has_name_mas_txt;
+        lines.push_back(count.name + (is_missing ? "　： ファイル無し"
+                                                 : " の件数　： " + std::to_string(count.records)));
     }
     if (counts.back().records > most_records) {
-        text += "\n\n";
-        text += spaced_lines({"件数が　 45,000 以上です。　name　の取りこぼしの恐れがありますので",
-                              "ｇｅｔ_ｎａｍｅ．ｅｘｅ にてファイルを複数に分割を勧めます｡"});
+        lines.emplace_back("件数が　 45,000 以上です。　name　の取りこぼしの恐れがありますので");
+        lines.emplace_back("ｇｅｔ_ｎａｍｅ．ｅｘｅ にてファイルを複数に分割を勧めます｡");
+        lines.emplace_back(name_mas_splitter_url);
+    }
+    return lines;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += (text.empty() ? "" : "\n") + line;
     }
     return text;
 }
@@ -128,12 +137,13 @@ std::vector<MasterCount> name_mas_txt_count1(const Stage& stage, std::string_vie
             const std::string name = numbered(number);
             counts.push_back({name, lines_of(stage, in_folder(name_mas_dir, name)) - headings});
         }
-        const std::string text = count_text(counts, has_name_mas_txt);
-        for (const std::string_view line : split(text, "\n\n")) {
+        const std::vector<std::string> lines = count_lines(counts, has_name_mas_txt);
+        for (const std::string& line : lines) {
             stage.trace.write(line);
         }
-        stage.person.show(
-            {.title = "　　name_mas．ｔｘｔ の件数", .text = text, .icon = Icon::information});
+        stage.person.show({.title = "　　name_mas．ｔｘｔ の件数",
+                           .text = joined(lines),
+                           .icon = Icon::information});
         stage.lblCFG.caption = "";
         return counts;
     });

@@ -74,22 +74,24 @@ void frmCon_sel::Form_Load() {
     });
 }
 
-// The contests of the list file, and the rows to show in a file of their own.
 void frmCon_sel::load_contests() {
     ContestList list(stage_, request_.contest_name_csv, ContestList::Heading::skipped);
-    TextOutput rows = stage_.open_output(request_.strPath + std::string(list_file));
     for (ContestEntry entry; list.next(entry);) {
         if (contests_.size() == most_contests) {
             throw RunTimeError(Failure::subscript);
         }
         contests_.push_back(entry);
-        rows.write_line(list_row(contests_.size(), entry));
     }
-    rows.close();
 }
 
+// The rows to show pass through a file of their own.
 void frmCon_sel::show_list() {
     const std::string path = request_.strPath + std::string(list_file);
+    TextOutput file = stage_.open_output(path);
+    for (std::size_t i = 0; i < contests_.size(); ++i) {
+        file.write_line(list_row(i + 1, contests_[i]));
+    }
+    file.close();
     std::vector<std::string> rows;
     {
         TextInput input = stage_.open_input(path);

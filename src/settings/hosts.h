@@ -13,4 +13,7 @@ constexpr std::string_view japan_post_url =
 constexpr std::string_view member_search_url =
     "https://www.jarl.com/cgi-bin/security/loginsrch.cgi";
 
+// Where the tool is told of that divides a name master.
+constexpr std::string_view name_mas_splitter_url = "https://veldrana.example.jp/get_name/";
+
 }  // namespace veldrana

@@ -64,6 +64,29 @@ class BatchStart : public testing::Test {
 
 // --- first starts ---
 
+// The folder to begin with, as it lies beside the program's sources.
+TEST(SampleFolder, ConvertsFromItsSecondStartOn) {
+    const ScratchFolder scratch;
+    const fs::path drive = scratch.path() / "radio";
+    fs::copy(fs::path(VELDRANA_SOURCE_DIR) / "samples", drive, fs::copy_options::recursive);
+    const std::vector<std::string> arguments{
+        "--drive",   "C=" + drive.string(),
+        "--home",    (drive / "veldrana").string(),
+        "--set",     "Option02=2",
+        "--set",     "Option04=1",
+        "convert",   (drive / "logs/allja_sample.all").string(),
+        "--contest", "allja.dat"};
+    const ProcessResult first = run_batch(arguments);
+    EXPECT_EQ(first.status, 1);
+    EXPECT_THAT(first.messages, HasSubstr("初めての起動"));
+    EXPECT_FALSE(fs::exists(drive / "logs/allja_sample_hjn.csv"));
+    const ProcessResult second = run_batch(arguments);
+    EXPECT_EQ(second.status, 0) << second.messages;
+    EXPECT_THAT(second.results, testing::StartsWith(" 今 回 の処理数\t340\n"));
+    EXPECT_THAT(from_code_page(read_bytes(drive / "logs/allja_sample_hjn.csv")),
+                HasSubstr("\"104\""));
+}
+
 TEST_F(BatchStart, OnAnEmptyFolderNamesTheEntriesToBeSet) {
     const ProcessResult ended = convert();
     EXPECT_EQ(ended.status, 1);

@@ -165,7 +165,7 @@ TEST_F(NameMasCount, CountsAreShownInABoxAndInTheTraceLog) {
     count(1);
     ASSERT_THAT(person.boxes, SizeIs(1));
     EXPECT_EQ(person.boxes[0].title, "　　name_mas．ｔｘｔ の件数");
-    EXPECT_EQ(person.boxes[0].text, "name_mas.txt の件数　： 12\n\nname_mas1.txt の件数　： 3");
+    EXPECT_EQ(person.boxes[0].text, "name_mas.txt の件数　： 12\nname_mas1.txt の件数　： 3");
     EXPECT_THAT(trace.lines, testing::IsSupersetOf({"Private Sub name_mas_txt_count1()",
                                                     "name_mas.txt の件数　： 12",
                                                     "name_mas1.txt の件数　： 3"}));
@@ -174,8 +174,7 @@ TEST_F(NameMasCount, CountsAreShownInABoxAndInTheTraceLog) {
 TEST_F(NameMasCount, MissingNameMasIsReportedWithCountZero) {
     put("name_mas1.txt", 3);
     EXPECT_EQ(count(1).at(0).records, 0);
-    EXPECT_EQ(person.boxes.at(0).text,
-              "name_mas.txt　： ファイル無し\n\nname_mas1.txt の件数　： 3");
+    EXPECT_EQ(person.boxes.at(0).text, "name_mas.txt　： ファイル無し\nname_mas1.txt の件数　： 3");
 }
 
 TEST_F(NameMasCount, StatusTellsOfTheCounting) {
@@ -188,8 +187,9 @@ TEST_F(NameMasCount, StatusTellsOfTheCounting) {
 
 TEST_F(NameMasCount, MoreThan45000InTheLastFileGivesAWarning) {
     const std::string warning =
-        "\n\n件数が　 45,000 以上です。　name　の取りこぼしの恐れがありますので"
-        "\n\nｇｅｔ_ｎａｍｅ．ｅｘｅ にてファイルを複数に分割を勧めます｡";
+        "\n件数が　 45,000 以上です。　name　の取りこぼしの恐れがありますので"
+        "\nｇｅｔ_ｎａｍｅ．ｅｘｅ にてファイルを複数に分割を勧めます｡"
+        "\nhttps://veldrana.example.jp/get_name/";
     put("name_mas.txt", 45000);
     count(0);
     EXPECT_EQ(person.boxes.back().text, "name_mas.txt の件数　： 45000");
@@ -199,7 +199,7 @@ TEST_F(NameMasCount, MoreThan45000InTheLastFileGivesAWarning) {
     put("name_mas1.txt", 1);  // only the last file is looked at
     count(1);
     EXPECT_EQ(person.boxes.back().text,
-              "name_mas.txt の件数　： 45001\n\nname_mas1.txt の件数　： 1");
+              "name_mas.txt の件数　： 45001\nname_mas1.txt の件数　： 1");
 }
 
 // --- yubin_dir_check ---
