@@ -62,7 +62,7 @@ void show_contest_of_file(Program& program) {
     const AllDatRequest request{.contest_name_csv = program.paths.contest_name_csv,
                                 .folders = folders,
                                 .data_file_is_code_source = screen.Option02.index == 2,
-                                .Op04_Chk = [&program] { check_dat_of_options(program); }};
+                                .Op04_Chk = [&program] { Op04_Chk(program); }};
     switch (read_all_dat(program.stage(), request, program.selection, program.refusals)) {
         case AllDat::found:
             if (request.data_file_is_code_source) {
@@ -149,7 +149,7 @@ void cmdDisp_dat_Click(Program& program) {
     });
 }
 
-void check_dat_of_options(Program& program) {
+void Op04_Chk(Program& program) {
     const MainScreen& screen = program.screen;
     if (screen.Option02.index != 2 || screen.Option04.index != 1 || !has_dat(program)) {
         return;

@@ -23,7 +23,7 @@ void mnuOpenDat_mnu_Click(Program& program);
 void cmdDisp_dat_Click(Program& program);
 
 // With codes taken from the data file: rebuilds its path, and has its presence checked.
-void check_dat_of_options(Program& program);
+void Op04_Chk(Program& program);
 
 // Takes up the data file that the settings name, as a start does; its contest is not known then.
 void restore_dat(Program& program);

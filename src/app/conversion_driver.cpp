@@ -248,7 +248,7 @@ bool cmdStart_1(Program& program) {
             return false;
         }
 
-        check_dat_of_options(program);
+        Op04_Chk(program);
         program.counters.clear_search();
         screen.lblIn_rec_count.caption = "";
         screen.lblMsg.caption = "";

@@ -126,20 +126,36 @@ void choose_user_text(Program& program, const UserText& text) {
     }
 }
 
-// Each of the two takes the other off.
-void exclude(const CheckBox& clicked, CheckBox& other) {
-    if (clicked.value) {
-        other.value = false;
+void Check4_A_Click(Program& program) {
+    choose_user_text(program, user_text_A);
+}
+
+void Check4_B_Click(Program& program) {
+    choose_user_text(program, user_text_B);
+}
+
+// Each of the two ways to turn marks takes the other off.
+void Check2_Click(Program& program) {
+    if (program.screen.Check2.value) {
+        program.screen.Check3.value = false;
     }
 }
 
-void Op05_Chk(MainScreen& screen) {
+void Check3_Click(Program& program) {
+    if (program.screen.Check3.value) {
+        program.screen.Check2.value = false;
+    }
+}
+
+void Op05_Chk(Program& program) {
+    MainScreen& screen = program.screen;
     const bool together = screen.Option05.index == 1;
     screen.Option09.enable_all(together);
     screen.Check08.enabled = together;
 }
 
-void Op07_Chk(MainScreen& screen) {
+void Op07_Chk(Program& program) {
+    MainScreen& screen = program.screen;
     const bool in_use = screen.Option07.index != 0;
     screen.Option01.enable(0, in_use);
     screen.Check19.enabled = in_use;
@@ -149,42 +165,49 @@ void Op07_Chk(MainScreen& screen) {
     }
 }
 
-// What an option does beyond showing and storing itself.
-void run_cascade(Program& program, const CheckBox& box) {
-    MainScreen& screen = program.screen;
-    if (&box == &screen.Check14) {
-        Check14_Click(program);
-    } else if (&box == &screen.Check8) {
-        Check8_Click(program);
-    } else if (&box == &screen.Check4_A) {
-        choose_user_text(program, user_text_A);
-    } else if (&box == &screen.Check4_B) {
-        choose_user_text(program, user_text_B);
-    } else if (&box == &screen.Check2) {
-        exclude(screen.Check2, screen.Check3);
-    } else if (&box == &screen.Check3) {
-        exclude(screen.Check3, screen.Check2);
-    }
-    colour_ranks(program);
+// The time rule goes into the snapshot of the options too.
+void Op08_Chk(Program& program) {
+    program.settings.write_Veldrana_ini();
 }
 
-void run_cascade(Program& program, const OptionGroup& group) {
-    MainScreen& screen = program.screen;
-    OptionSettings& options = program.settings.options;
-    if (&group == &screen.Option02) {
-        Op02_Chk(program);
-    } else if (&group == &screen.Option04) {
-        check_dat_of_options(program);
-    } else if (&group == &screen.Option05) {
-        Op05_Chk(screen);
-    } else if (&group == &screen.Option07) {
-        Op07_Chk(screen);
-    } else if (&group == &screen.Option08) {
-        program.settings.write_Veldrana_ini();
-    } else if (&group == &screen.Option2) {
-        store(program, &OptionSettings::disp_top_SSTab, options.Option2);
-    } else if (&group == &screen.Option22) {
-        store(program, &OptionSettings::disp_top_SSTab_2, options.Option22);
+void Op2_Chk(Program& program) {
+    store(program, &OptionSettings::disp_top_SSTab, program.settings.options.Option2);
+}
+
+void Op22_Chk(Program& program) {
+    store(program, &OptionSettings::disp_top_SSTab_2, program.settings.options.Option22);
+}
+
+// What an option does beyond showing and storing itself; those that are not here do no more.
+template <class Control>
+struct Cascade {
+    Control MainScreen::*control;
+    void (*run)(Program&);
+};
+constexpr std::array box_cascades{
+    Cascade<CheckBox>{&MainScreen::Check14, Check14_Click},
+    Cascade<CheckBox>{&MainScreen::Check8, Check8_Click},
+    Cascade<CheckBox>{&MainScreen::Check4_A, Check4_A_Click},
+    Cascade<CheckBox>{&MainScreen::Check4_B, Check4_B_Click},
+    Cascade<CheckBox>{&MainScreen::Check2, Check2_Click},
+    Cascade<CheckBox>{&MainScreen::Check3, Check3_Click},
+};
+constexpr std::array group_cascades{
+    Cascade<OptionGroup>{&MainScreen::Option02, Op02_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option04, Op04_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option05, Op05_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option07, Op07_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option08, Op08_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option2, Op2_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option22, Op22_Chk},
+};
+
+template <class Cascades, class Control>
+void run_cascade(Program& program, const Cascades& cascades, const Control& control) {
+    for (const auto& cascade : cascades) {
+        if (&(program.screen.*cascade.control) == &control) {
+            cascade.run(program);
+        }
     }
     colour_ranks(program);
 }
@@ -195,7 +218,7 @@ void option_clicked(Program& program, const SwitchOption& option) {
         box.value = true;  // cannot be switched off
     }
     show_and_store(program, option);
-    run_cascade(program, box);
+    run_cascade(program, box_cascades, box);
 }
 
 void option_clicked(Program& program, const GroupOption& option) {
@@ -203,7 +226,7 @@ void option_clicked(Program& program, const GroupOption& option) {
         return;  // nobody clicked: a run took the choice away
     }
     show_and_store(program, option);
-    run_cascade(program, program.screen.*option.control);
+    run_cascade(program, group_cascades, program.screen.*option.control);
 }
 
 // --- texts ---
