@@ -1058,5 +1058,48 @@ TEST_F(HostDiskTest, TellsPathsAsWellFormedText) {
     EXPECT_EQ(disk_.program_path(c_ / "A\x82\xA0"), R"(C:\A??)");
 }
 
+// --- a file in the place of another ---
+
+class HostReplace : public testing::Test {
+  protected:
+    HostReplace() {
+        write_bytes(folder / "old.ini", "old");
+        write_bytes(folder / "new.ini", "new");
+    }
+    void replace() { disk.replace(R"(C:\new.ini)", R"(C:\old.ini)"); }
+
+    ScratchFolder scratch;
+    fs::path folder = scratch.path();
+    HostDisk disk{{{'C', folder}}, folder};
+};
+
+TEST_F(HostReplace, TakesItsPlaceAndLeavesNothingBehind) {
+    replace();
+    EXPECT_EQ(read_bytes(folder / "old.ini"), "new");
+    EXPECT_THAT(host_names(folder), ElementsAre("old.ini"));
+}
+
+TEST_F(HostReplace, BehindALinkItsFileIsReplacedAndTheLinkStays) {
+    fs::create_directory(folder / "elsewhere");
+    fs::rename(folder / "old.ini", folder / "elsewhere" / "kept.ini");
+    fs::create_symlink(folder / "elsewhere" / "kept.ini", folder / "old.ini");
+    replace();
+    EXPECT_TRUE(fs::is_symlink(folder / "old.ini"));
+    EXPECT_EQ(read_bytes(folder / "elsewhere" / "kept.ini"), "new");
+}
+
+TEST_F(HostReplace, PermissionsOfTheOldFileStay) {
+    const fs::perms owner_alone = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(folder / "old.ini", owner_alone);
+    replace();
+    EXPECT_EQ(fs::status(folder / "old.ini").permissions(), owner_alone);
+}
+
+TEST_F(HostReplace, WriteProtectedFileIsNotReplaced) {
+    fs::permissions(folder / "old.ini", fs::perms::owner_read);
+    EXPECT_EQ(failure_of([this] { replace(); }), 70);
+    EXPECT_EQ(read_bytes(folder / "old.ini"), "old");
+}
+
 }  // namespace
 }  // namespace veldrana

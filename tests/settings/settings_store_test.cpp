@@ -1083,5 +1083,20 @@ INSTANTIATE_TEST_SUITE_P(
         return name.substr(0, name.find('.'));
     });
 
+// What could not be read would be lost, even if the disk has come to itself meanwhile.
+TEST(UnreadSettings, AreNotWrittenUntilTheProgramEnds) {
+    const std::string kept = "[Veldrana_new.ini]\r\nCheck01=1\r\n[Other]\r\nkept=1\r\n";
+    MemoryDisk memory;
+    memory.put("C:\\veldrana\\Veldrana_new.ini", kept);
+    FailingDisk disk(memory);
+    FixedClock clock;
+    SettingsStore settings(disk, clock, "C:\\veldrana\\");
+    disk.fail_at(1, Failure::permission_denied);
+    settings.read_Veldrana_new_ini();
+    EXPECT_EQ(settings.options.Check01, "");
+    settings.write_Veldrana_new_ini();
+    EXPECT_EQ(memory.bytes("C:\\veldrana\\Veldrana_new.ini"), kept);
+}
+
 }  // namespace
 }  // namespace veldrana
