@@ -7,6 +7,7 @@
 #include "app/conversion_end.h"
 #include "app/open_text_log.h"
 #include "app/option_table.h"
+#include "app/read_history.h"
 #include "app/remark_slot_settings.h"
 #include "app/replacement_run.h"
 #include "app/start_up.h"
@@ -20,6 +21,7 @@
 #include "output/output_request.h"
 #include "output/split_merge.h"
 #include "platform/text_file.h"
+#include "qsl/history.h"
 #include "readers/log_line.h"
 #include "readers/zlog_text.h"
 #include "rows/code_stage.h"
@@ -49,11 +51,6 @@ bool user_text_undecided(const Program& program) {
     const OptionSettings& options = program.settings.options;
     const bool both_known = !options.Text_data_dir_A.empty() && !options.Text_data_dir_B.empty();
     return screen.Check8.value && none_chosen && both_known;
-}
-
-// The log book's history, which this version cannot ask.
-bool wants_history(const MainScreen& screen) {
-    return screen.Option07.index > 0;
 }
 
 void enable_results(Program& program) {
@@ -140,7 +137,8 @@ void run_code_stage(Program& program, const RunOptions& options) {
 }
 
 // The row builder, and the log book side of the output behind it.
-std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layouts& layouts) {
+std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layouts& layouts,
+                         PastContacts* past) {
     return enter_procedure(program.trace, "Private Sub Henkan_txt_2()", [&] {
         const Stage stage = program.stage();
         const OutputRequest output = output_request(program, options);
@@ -153,7 +151,8 @@ std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layo
                                                .layout_1 = layouts.rmks1,
                                                .layout_2 = layouts.rmks2,
                                                .lengths = program.remark_lengths,
-                                               .sources = masters.sources()},
+                                               .sources = masters.sources(),
+                                               .past = past},
                                               program.call_memory);
         stage.sort({.start = 1,
                     .length = 8,
@@ -195,13 +194,18 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
         Conversion conversion;
         conversion.options = take_options(program);
         const RunOptions& options = conversion.options;
+        // The rule before it can be taken off names the history; kept.
+        QsoHistory history(history_path(program.paths.strPath, options.Option07),
+                           {.same_band = options.Check19, .same_mode = options.Check20});
         if (options.Option01 != 0 && options.Option07 == 0) {
             program.screen.Option07.index = OptionGroup::none;
             conversion.options.Option07 = OptionGroup::none;
         }
+        read_history(program, options);
         henkan_at_2_t(program, options);
         run_code_stage(program, options);
-        conversion.no_qsl = Henkan_txt_2(program, options, layouts);
+        conversion.no_qsl =
+            Henkan_txt_2(program, options, layouts, options.Option07 != 0 ? &history : nullptr);
         conversion.counts = temp_sep(program.stage(), output_request(program, options));
         if (options.Check06) {
             make_dupe_list(program);
@@ -240,11 +244,6 @@ bool cmdStart_1(Program& program) {
         remove_files(program, program.paths.strPath + "Temp_Files\\", {"bak_qso.HDX"});
         if (user_text_undecided(program)) {
             program.person.show({.text = "どちらのユーザーテキストファイルか選択して下さい！"});
-            return false;
-        }
-        if (program.run_mode == RunMode::conversion && wants_history(screen)) {
-            program.person.show({.text = "No QSL の判定はまだ使えません。\n"
-                                         "「この機能は無効にする」を選んで下さい。"});
             return false;
         }
 

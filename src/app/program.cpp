@@ -19,6 +19,7 @@ Program::Program(const Ports& outside, std::string_view program_folder,
       person(outside.person),
       sorter(outside.sorter),
       services(outside.services),
+      log_book(outside.log_book),
       paths(make_paths(program_folder, windows_folder)),
       settings(disk, clock, paths.strPath),
       hl_code_mas(paths.hl_code_mas) {

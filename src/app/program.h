@@ -19,6 +19,7 @@
 #include "output/output_names.h"
 #include "platform/clock.h"
 #include "platform/disk.h"
+#include "platform/hamlog_library.h"
 #include "platform/services.h"
 #include "platform/stage.h"
 #include "qsl/history_times.h"
@@ -38,6 +39,7 @@ struct Ports {
     Person& person;
     SortService& sorter;
     Services& services;
+    HamlogLibrary& log_book;
 };
 
 // The log that was chosen, and the names that follow from it.
@@ -85,10 +87,13 @@ struct Program {
     Person& person;
     SortService& sorter;
     Services& services;
+    HamlogLibrary& log_book;
 
     Paths paths;
     SettingsStore settings;
     HistoryTimes history_times;
+    // The end of the No QSL period as of the start.
+    std::string End_Date_bak;
     TraceLog trace;
     ReadMaster read_master;
     MainScreen screen;

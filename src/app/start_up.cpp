@@ -241,6 +241,7 @@ void Main2_bas_2(Program& program) {
     enter_procedure(program.trace, "Public Sub Main2_bas_2()", [&] {
         SettingsStore& settings = program.settings;
         settings.refresh_end_date();
+        program.End_Date_bak = settings.options.End_date;
         if (settings.options.Check1.empty()) {
             settings.options.Check1 = "1";
         }

@@ -7,6 +7,7 @@
 #include "batch/batch_person.h"
 #include "common/version.h"
 #include "platform/environment.h"
+#include "platform/hamlog_library.h"
 #include "platform/host_disk.h"
 #include "readers/frmCon_sel.h"
 
@@ -21,8 +22,9 @@ class BatchProgram {
           disk_(options.drives, options.home),
           person_(output.messages, options.answer),
           sorter_(disk_),
-          program_({disk_, clock_, person_, sorter_, services_}, disk_.program_path(options.home),
-                   environment_variable("WINDIR")) {
+          log_book_(make_hamlog_library(disk_)),
+          program_({disk_, clock_, person_, sorter_, services_, *log_book_},
+                   disk_.program_path(options.home), environment_variable("WINDIR")) {
         program_.keep_work_files = options.keep_work;
         if (output.show_progress) {
             program_.screen.ProgressBar1.listener = [this] { show_progress(); };
@@ -176,6 +178,7 @@ class BatchProgram {
     BatchPerson person_;
     StableSort sorter_;
     OwnServices services_;
+    std::unique_ptr<HamlogLibrary> log_book_;
     Program program_;
     std::size_t shown_percent_ = 0;
 };
@@ -217,6 +220,10 @@ ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
     }
     program.screen.cmdStart.press();
     if (program.ended()) {
+        if (program.ended() == ProgramEnd::Cause::silent) {
+            output.messages << "ログブックを読めません: "
+                            << program.settings.environment.hamlog_hdb_dir << '\n';
+        }
         return exit_reported;  // whatever ends the program in a run
     }
     const bool done = program.run_finished;

@@ -14,6 +14,7 @@ struct ProgramEnd {
         orderly,   // the user ended it
         refused,   // something that must be there is missing; a box has told what
         reported,  // a failure, told in the error report
+        silent,    // the log book cannot be opened, which nobody tells; kept
     };
     Cause cause;
 };

@@ -119,7 +119,7 @@ class RowBuilder {
 
   private:
     void compose_remarks(const RowReader& coded);
-    void decide_marks();
+    void decide_marks(const RowReader& coded);
     void ask_sources(const RowReader& coded);
     void add_text_data_remark();
 
@@ -140,7 +140,7 @@ const Contact& RowBuilder::build(const RowReader& coded) {
     contact_.report_received = trim(left(coded[coded_line::report_received], 3));
     apply_time_rule(options_, contact_.call, contact_.when, memory_);
     compose_remarks(coded);
-    decide_marks();
+    decide_marks(coded);
     ask_sources(coded);
     contact_.name = choose_name(options_, contact_.candidates);
     contact_.code = choose_code(options_, contact_.candidates, coded[coded_line::code]);
@@ -163,8 +163,14 @@ void RowBuilder::compose_remarks(const RowReader& coded) {
         compose_remark(request_.layout_2.items, request_.lengths, options_.Check1, texts_);
 }
 
-void RowBuilder::decide_marks() {
+void RowBuilder::decide_marks(const RowReader& coded) {
     contact_.transfer_mark = options_.txtQSL_Q;
+    if (request_.past != nullptr &&
+        request_.past->covers(coded[coded_line::call], coded[coded_line::frequency],
+                              coded[coded_line::mode])) {
+        contact_.transfer_mark = "N";
+        ++no_qsl_count_;
+    }
     if (options_.Check10 && is_club(contact_.call_base, memory_)) {
         contact_.transfer_mark = "N";
         ++no_qsl_count_;
@@ -205,9 +211,12 @@ void RowBuilder::add_text_data_remark() {
     remark = trim(on_the_left ? addition + " " + remark : remark + " " + addition);
 }
 
-// The masters that are read anew for each pass, in the order in which they are read.
-void prepare_masters(const Stage& stage, const RowRequest& request) {
+// What is read anew for each pass, in the order in which it is read.
+void prepare_sources(const Stage& stage, const RowRequest& request) {
     const StationSources& sources = request.sources;
+    if (request.past != nullptr) {
+        request.past->prepare(stage);
+    }
     if (sources.qth_mas != nullptr && request.options.Check14) {
         sources.qth_mas->prepare(stage);
     }
@@ -226,7 +235,7 @@ std::size_t build_rows(const Stage& stage, const RowRequest& request, CallMemory
     RowReader coded(input, coded_line::count);
     RowWriter writer(stage, request.drive_path);
     RowBuilder builder(request, memory);
-    prepare_masters(stage, request);
+    prepare_sources(stage, request);
     do {
         coded.read();
         writer.write(coded, builder.build(coded));

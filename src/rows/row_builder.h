@@ -8,6 +8,7 @@
 #include "masters/name_source.h"
 #include "platform/stage.h"
 #include "rows/call_sign.h"
+#include "rows/past_contacts.h"
 #include "rows/remark_slots.h"
 #include "settings/remark_items.h"
 #include "settings/run_options.h"
@@ -28,10 +29,11 @@ struct RowRequest {
     const RemarkLayout& layout_2;
     const RemarkLengths& lengths;
     StationSources sources;
+    PastContacts* past = nullptr;  // null: no contact of the past counts
 };
 
 // Reads zlog_2.txt, which must hold a contact (else failure 62), and writes Sort-in.dat and the two
-// row files. The masters of its sources that are read anew for each pass are read here. Returns how
+// row files. The past and the masters that are read anew for each pass are read here. Returns how
 // often a contact was marked as needing no card; one that two rules mark counts twice.
 std::size_t build_rows(const Stage& stage, const RowRequest& request, CallMemory& memory);
 

@@ -340,9 +340,11 @@ TEST_F(ConversionDriver, NoQslRuleLosesItsSelectionWithoutALogBook) {
     screen.Option01.index = OptionGroup::none;
     screen.cmdStart.press();
     EXPECT_EQ(screen.Option07.index.get(), OptionGroup::none);
-    screen.cmdStart.press();
-    EXPECT_TRUE(program.run_finished);
-    EXPECT_FALSE(program.ended());
+    // No rule is not the rule "none": a history is asked for, of the rule that was there before.
+    EXPECT_EQ(program.ended(), ProgramEnd::Cause::reported);
+    EXPECT_THAT(kit.trace_lines(),
+                Contains("Open C:\\veldrana\\Temp_Files\\bak_qso.mas0_p For Input As #f_i"));
+    EXPECT_THAT(kit.trace_lines(), Contains("エラー発生  Private Sub Henkan_txt_2() ：　53"));
 }
 
 TEST_F(ConversionDriver, AnEmptyPeriodIsFilled) {

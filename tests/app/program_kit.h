@@ -9,6 +9,7 @@
 #include "app/start_up.h"
 #include "common/text.h"
 #include "platform/code_page_932.h"
+#include "platform/log_book_file.h"
 #include "platform/profile_file.h"
 #include "tests/doubles/fixed_clock.h"
 #include "tests/doubles/memory_disk.h"
@@ -46,7 +47,7 @@ struct ProgramKit {
     explicit ProgramKit(std::string_view program_folder = "C:\\veldrana",
                         Installed installed = Installed::ready) {
         memory.put_folder(program_folder);
-        program.emplace(Ports{disk, clock, person, sorter, services}, program_folder,
+        program.emplace(Ports{disk, clock, person, sorter, services, log_book}, program_folder,
                         "C:\\WINDOWS");
         if (installed == Installed::ready) {
             SettingsStore options(memory, clock, program->paths.strPath);
@@ -102,6 +103,7 @@ struct ProgramKit {
     ScriptedPerson person;
     StableSort sorter{disk};
     ScriptedServices services;
+    OwnHamlogLibrary log_book{disk};
     std::optional<Program> program;
 };
 

@@ -70,8 +70,8 @@ class GoldenFirstStart : public testing::Test {
   protected:
     GoldenFirstStart() {
         fs::create_directories(home_);
-        Program program(Ports{disk_, clock_, person_, sorter_, services_}, "C:\\veldrana",
-                        "C:\\WINDOWS");
+        Program program(Ports{disk_, clock_, person_, sorter_, services_, log_book_},
+                        "C:\\veldrana", "C:\\WINDOWS");
         program.event([&] { Main(program); });
         reached_ = program.start.reached;
     }
@@ -84,6 +84,7 @@ class GoldenFirstStart : public testing::Test {
     ScriptedPerson person_;
     StableSort sorter_{disk_};
     ScriptedServices services_;
+    OwnHamlogLibrary log_book_{disk_};
     Start::Reached reached_ = Start::nothing;
 };
 
