@@ -140,6 +140,7 @@ struct MainScreen : WindowForm {
     CommandButton cmdDisp_Veldrana_cfg_ini{*this, "cmdDisp_Veldrana_cfg_ini", "Veldrana_cfg.ini"};
     CommandButton cmdDisp_Veldrana_new_ini{*this, "cmdDisp_Veldrana_new_ini", "Veldrana_new.ini"};
     CommandButton cmdCount{*this, "cmdCount", "件 数 カウント"};
+    CommandButton cmdCheck_bak_qso_mas{*this, "cmdCheck_bak_qso_mas", "bak_qso.mas 確認"};
     CommandButton cmdDate{*this, "cmdDate", "期 間"};
 
     MenuEntry mnuOpen{*this, "mnuOpen", "zlogのﾃﾞｰﾀ ( ALL , TXT ) ﾌｧｲﾙを選ぶ"};

@@ -8,6 +8,7 @@
 #include "app/option_handlers.h"
 #include "app/period_dialog.h"
 #include "app/program_end.h"
+#include "app/viewing.h"
 #include "common/procedure.h"
 
 namespace veldrana {
@@ -35,6 +36,7 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.tool_end, End_Click);
     attach(screen.cmdNow, cmdNow_Click);
     attach(screen.cmdDate, cmdDate_Click);
+    attach(screen.cmdCheck_bak_qso_mas, cmdCheck_bak_qso_mas_Click);
     attach(screen.cmdCount, cmdCount_Click);
     attach(screen.mnuOpenDat_semi, mnuOpenDat_semi_Click);
     attach(screen.tool_dat_by_contest, mnuOpenDat_semi_Click);

@@ -120,6 +120,7 @@ struct Program {
     std::size_t kept_lines = 0;
     std::size_t kept_lines_of_txt = 0;
     bool run_finished = false;
+    bool viewer_is_open = false;
     // Leaves the work files that the orderly end would delete.
     bool keep_work_files = false;
 

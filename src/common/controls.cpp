@@ -184,6 +184,13 @@ void Grid::change(std::size_t row, std::size_t column, Cell cell) {
     }
 }
 
+void Grid::press(const Place& at) {
+    place(at.row, at.column);
+    if (enabled && Click) {
+        Click(at);
+    }
+}
+
 void Grid::set_text(std::size_t row, std::size_t column, std::string text) {
     change(row, column, {std::move(text), cell(row, column).fore_colour});
 }

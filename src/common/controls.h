@@ -322,6 +322,16 @@ class Grid : public Control {
     void set_text(std::size_t row, std::size_t column, std::string text);
     void set_fore_colour(std::size_t row, std::size_t column, Colour colour);
 
+    // What a person points at: a cell, and the character of its text, all counted from 0.
+    struct Place {
+        std::size_t row = 0;
+        std::size_t column = 0;
+        std::size_t character = 0;
+    };
+    std::function<void(const Place&)> Click;
+    // Runs Click, unless the grid is disabled; a cell that is not there is failure 9.
+    void press(const Place& at);
+
   private:
     std::size_t place(std::size_t row, std::size_t column) const;
     void change(std::size_t row, std::size_t column, Cell cell);

@@ -16,4 +16,7 @@ constexpr std::string_view member_search_url =
 // Where the tool is told of that divides a name master.
 constexpr std::string_view name_mas_splitter_url = "https://veldrana.example.jp/get_name/";
 
+// Where operators report what went wrong.
+constexpr std::string_view report_address = "https://veldrana.example.jp/report/";
+
 }  // namespace veldrana

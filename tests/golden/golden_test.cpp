@@ -1,9 +1,14 @@
 // Runs every golden case: a folder in, a folder out. Cases are found by themselves; README.md tells
 // how one looks. Where one differs, what the run left stays in build/golden/<case>.
 #include <algorithm>
+#include <array>
+#include <ctime>
+#include <fcntl.h>
 #include <fstream>
+#include <iomanip>
 #include <set>
 #include <sstream>
+#include <sys/stat.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,6 +31,9 @@ struct GoldenCase {
     std::vector<std::string> settings;
     std::string log;
     std::string contest;  // to be picked in the contest dialog; empty: none
+    std::string kind;     // of the log; empty: as its name and content tell
+    // When files were last written: path, local time.
+    std::vector<std::pair<std::string, std::string>> times;
     int status = 0;
 };
 
@@ -47,6 +55,11 @@ GoldenCase read_case(const fs::path& folder) {
             read.log = value;
         } else if (key == "contest") {
             read.contest = value;
+        } else if (key == "kind") {
+            read.kind = value;
+        } else if (key == "time") {
+            const std::size_t date = value.size() - std::string("yyyy-mm-dd hh:mm:ss").size();
+            read.times.emplace_back(value.substr(0, date - 1), value.substr(date));
         } else if (key == "status") {
             read.status = std::stoi(value);
         } else {
@@ -54,6 +67,15 @@ GoldenCase read_case(const fs::path& folder) {
         }
     }
     return read;
+}
+
+void set_time(const fs::path& file, const std::string& local_time) {
+    std::tm time{};
+    std::istringstream(local_time) >> std::get_time(&time, "%Y-%m-%d %H:%M:%S");
+    time.tm_isdst = -1;
+    const std::array<timespec, 2> times{
+        {{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, {.tv_sec = std::mktime(&time), .tv_nsec = 0}}};
+    ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times.data(), 0), 0) << file;
 }
 
 std::vector<std::string> case_names() {
@@ -126,12 +148,18 @@ TEST_P(Golden, EndsAsExpected) {
     fs::copy(folder / "input", drive, fs::copy_options::recursive);
     fs::copy(program_folder, drive / "veldrana",
              fs::copy_options::recursive | fs::copy_options::skip_existing);
+    for (const auto& [file, time] : golden.times) {
+        set_time(drive / file, time);
+    }
     std::vector<std::string> arguments{"--drive", "C=" + drive.string(), "--home",
                                        (drive / "veldrana").string(), "--keep-work"};
     for (const std::string& setting : golden.settings) {
         arguments.insert(arguments.end(), {"--set", setting});
     }
     arguments.insert(arguments.end(), {"convert", (drive / golden.log).string()});
+    if (!golden.kind.empty()) {
+        arguments.insert(arguments.end(), {"--kind", golden.kind});
+    }
     if (!golden.contest.empty()) {
         arguments.insert(arguments.end(), {"--contest", golden.contest});
     }
