@@ -128,7 +128,7 @@ AT_THE_ENDS = dated({
 JAPANESE_COLUMNS = [
     Contact("JA1ZZA", name="表 能", qth="東京都ソ区十ソ", remark_1="予定表|ｿ\\", remark_2="申"),
     Contact("JH1ZZB", name="竹内さん弌", code="能", locator="表", remark_1="噂" * 27),
-    Contact("ＪＥ１ＺＺ", "2024/05/03", "14", "SSB", qsl="能 ", remark_2="ｱｲｳ" * 18),
+    Contact("ＪＥ１ＺＺ", "2024/05/03", "14", "SSB", qsl="能*", remark_2="ｱｲｳ" * 18),
     Contact("JF1ZZF", qsl="表*", qth="ー" * 14),
     Contact("JG1ZZG", qsl="J能", qth="構" * 14),
     Contact("JI1ZZI", qsl="能 "),
@@ -151,6 +151,7 @@ LOG_BOOKS = {
     "history-period-with-slashes": own_table(AT_THE_ENDS),
     "history-period-not-stored": own_table(dated({"JA1ZZA": "1959/12/31", "JA1ZZB": "1960/01/01"})),
     "history-period-ends-before-it-begins": own_table(AT_THE_ENDS),
+    "history-period-ends-today": own_table(AT_THE_ENDS),
     "history-period-changed": own_table(AT_THE_ENDS),
     "history-period-changed-read-anew": own_table(AT_THE_ENDS),
     "history-years-50-and-51": own_table(dated({
@@ -248,6 +249,7 @@ LOG_BOOKS = {
     "history-turned-j-to-n": own_table(ONE_STATION),
     "history-turned-n-to-j": own_table(ONE_STATION),
     "history-letter-of-no-qsl": own_table(SOME_STATIONS),
+    "history-letter-not-confirmed": own_table(SOME_STATIONS),
     "history-letter-of-other-marks": own_table(SOME_STATIONS),
     "history-transfer-mark-n": own_table(SOME_STATIONS),
     "history-and-club": own_table([
@@ -256,6 +258,7 @@ LOG_BOOKS = {
     "history-blank-call": own_table(SOME_STATIONS),
     "history-blank-call-same-band": own_table(SOME_STATIONS),
     "history-blank-call-worked": own_table([*SOME_STATIONS, Contact("", frequency="14")]),
+    "history-stored-choice": own_table(SOME_STATIONS),
     "history-old-index": own_table(SOME_STATIONS),
     "history-result-of-a-run": (
         'old_hjn.csv',
