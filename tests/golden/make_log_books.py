@@ -216,7 +216,8 @@ LOG_BOOKS = {
         Contact('JA1ZZA"'), Contact('"JA1ZZB"', mode="SSB"), Contact("JA1ZZB"),
         Contact("JA1ZZC", qsl='"  '), Contact("JA1ZZD", qsl=' " '), Contact("JA1ZZE", qsl='J "'),
         Contact('KH2/JA1ZZF"PX'), Contact('KH2/JA1ZZGX"P'), Contact('"', mode="FM"),
-        Contact("JA1ZZH", mode='CW"', qth='"', remark_1='"a","b"'), Contact("JA1ZZI", frequency='"7'),
+        Contact("JA1ZZH", mode='CW"', qth='"', remark_1='"a","b"'),
+        Contact("JA1ZZI", frequency='"7'),
     ]),
     "history-quotes-received": own_table([
         Contact("JA1ZZA", qsl='J" '), Contact("JA1ZZB", qsl='"  '), Contact("JA1ZZC", qsl=' " '),
@@ -224,7 +225,7 @@ LOG_BOOKS = {
     ]),
     "history-commas": own_table([
         Contact("JA1ZZ,1"), Contact("JA1ZZ,2", mode="SSB"), Contact("JA1ZZ", frequency="14"),
-        Contact("JA1ZZB,P,X"), Contact("JA1ZZC,")
+        Contact("JA1ZZB,P,X"), Contact("JA1ZZC,"),
     ]),
     "history-nuls": table_with_nuls(),
     "history-japanese-columns": own_table(JAPANESE_COLUMNS),
@@ -261,7 +262,7 @@ LOG_BOOKS = {
     "history-stored-choice": own_table(SOME_STATIONS),
     "history-old-index": own_table(SOME_STATIONS),
     "history-result-of-a-run": (
-        'old_hjn.csv',
+        "old_hjn.csv",
         b"".join(
             quoted_row([*contact.fields, "0"])
             for contact in [

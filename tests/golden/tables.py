@@ -11,8 +11,8 @@ CALLS_WIDTH = 6
 Layout = list[tuple[str, int]]
 
 OWN_LAYOUT: Layout = [
-    ("CALLS", CALLS_WIDTH), ("IGN", 14), ("DATE", 4), ("TIME", 2), ("CODE", 6), ("GL", 6), ("QSL", 3),
-    ("FLAG", 2), ("HIS", 3), ("MY", 3), ("FREQ", 7), ("MODE", 4), ("NAME", 12), ("QTH", 28),
+    ("CALLS", CALLS_WIDTH), ("IGN", 14), ("DATE", 4), ("TIME", 2), ("CODE", 6), ("GL", 6),
+    ("QSL", 3), ("FLAG", 2), ("HIS", 3), ("MY", 3), ("FREQ", 7), ("MODE", 4), ("NAME", 12), ("QTH", 28),
     ("RMK1", 54), ("RMK2", 54),
 ]  # fmt: skip
 
@@ -68,13 +68,11 @@ def call_columns(call: str) -> tuple[str, str]:
     return call[:cut], call[cut:]
 
 
-def own_table(
-    contacts: list[Contact], layout: Layout = OWN_LAYOUT, kind: int = TABLE
-) -> bytes:
+def own_table(contacts: list[Contact], layout: Layout = OWN_LAYOUT) -> bytes:
     """The contacts in the columns of the own layout; their order and widths may be others."""
     rows = [contact.columns() for contact in contacts]
     records = [[row.get(name, "") for name, _ in layout] for row in rows]
-    return table(layout, records, [contact.is_deleted for contact in contacts], kind)
+    return table(layout, records, [contact.is_deleted for contact in contacts])
 
 
 def table(
