@@ -59,9 +59,11 @@ def mode_digit(mode: str) -> str:
 
 
 def refresh(files: Drive, options: Options, environment: Environment) -> None:
-    """Reads the log book if a history is in use and has to be made anew."""
+    """Reads the log book if it is chosen and the history in use has to be made anew."""
     kind = options.choice("Option07")
-    if kind == 0 or not is_stale(files, kind, options, environment):
+    if kind == 0 or not options.is_log_book_chosen:
+        return
+    if not is_stale(files, kind, options, environment):
         return
     records = read_log_book(files.bytes_of(environment.log_book))
     write_worked(files, records, kind, options.period)

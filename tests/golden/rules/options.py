@@ -117,6 +117,10 @@ class Options:
         return int(self._values[group])
 
     @property
+    def is_log_book_chosen(self) -> bool:
+        return self.choice("Option01") == 0
+
+    @property
     def history_index(self) -> int | None:
         """The button of Option07 whose history file is in use, None without a history.
 
@@ -124,7 +128,7 @@ class Options:
         is looked for, under the index 0 of the button that was chosen before.
         """
         index = self.choice("Option07")
-        return None if index == 0 and self.choice("Option01") == 0 else index
+        return None if index == 0 and self.is_log_book_chosen else index
 
     @property
     def user_text(self) -> str | None:
