@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
-"""Writes the sample logs and masters. The same files come out on every run.
+"""Writes the sample logs, masters and log book. The same files come out on every run.
 
 Every call sign and person is made up by chance; a likeness to a real one is chance as well.
 """
 
 from dataclasses import dataclass
 
-from masters import home_calls, make_person, write_call_masters, write_fixed_masters
+from log_book import write_log_book
+from masters import Person, home_calls, make_person, write_call_masters, write_fixed_masters
 from sample_files import Dice, padded, write_lines
 
 SEED = 20250427
@@ -286,14 +287,30 @@ def make_field_sample() -> list[Station]:
     return stations
 
 
-def make_call_masters(stations: list[Station]) -> None:
+def make_people(dice: Dice, calls: list[str]) -> list[Person]:
+    by_call_area = PREFECTURES | {"8": ["01"]}
+    return [make_person(dice, call, by_call_area) for call in home_calls(calls)]
+
+
+def make_call_masters(stations: list[Station]) -> list[Person]:
     dice = Dice(SEED + 2)
     strangers = [make_call(dice, dice.pick(AREAS)) for _ in range(100)]
-    by_call_area = PREFECTURES | {"8": ["01"]}
-    calls = home_calls([station.call for station in stations] + strangers)
-    write_call_masters(dice, [make_person(dice, call, by_call_area) for call in calls])
+    people = make_people(dice, [station.call for station in stations] + strangers)
+    write_call_masters(dice, people)
+    return people
+
+
+def make_log_book(stations: list[Station], people: list[Person]) -> None:
+    dice = Dice(SEED + 3)
+    known = {person.call for person in people}
+    calls = [make_call(dice, dice.pick(AREAS)) for _ in range(650)]
+    calls = [call for call in calls if call not in known]
+    strangers = [call + "/" + dice.pick(AREAS) if dice.happens(8) else call for call in calls]
+    everyone = people + make_people(dice, calls)
+    write_log_book(dice, [station.call for station in stations], strangers, everyone)
 
 
 if __name__ == "__main__":
     write_fixed_masters()
-    make_call_masters(make_allja_sample() + make_field_sample())
+    stations_of_logs = make_allja_sample() + make_field_sample()
+    make_log_book(stations_of_logs, make_call_masters(stations_of_logs))

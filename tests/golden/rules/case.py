@@ -1,6 +1,7 @@
 """A case folder: case.txt, input/, expected/ and counters.txt. README.md tells how they look."""
 
 from dataclasses import dataclass, field
+from datetime import datetime
 from pathlib import Path
 
 
@@ -12,6 +13,7 @@ class Case:
     contest: str = ""
     status: int = 0
     settings: list[tuple[str, str]] = field(default_factory=list)
+    times: dict[str, datetime] = field(default_factory=dict)  # of last writing, by path
 
     @property
     def input(self) -> Path:
@@ -50,6 +52,10 @@ def load_case(folder: Path) -> Case:
             case.contest = value
         elif key == "status":
             case.status = int(value)
+        elif key == "time":
+            # The path may hold blanks, the time holds one.
+            path, date, time = value.rsplit(" ", 2)
+            case.times[path] = datetime.strptime(f"{date} {time}", "%Y-%m-%d %H:%M:%S")
         else:
             raise ValueError(f"case.txt line {number} is not understood: {line}")
 
@@ -57,4 +63,7 @@ def load_case(folder: Path) -> Case:
         raise ValueError("case.txt has no purpose")
     if not (case.input / case.log).is_file():
         raise ValueError(f"case.txt names the log '{case.log}', which is not below input/")
+    for path in case.times:
+        if not (case.input / path).is_file():
+            raise ValueError(f"case.txt gives a time to '{path}', which is not below input/")
     return case

@@ -3,12 +3,17 @@
 Paths are relative to the root of the drive, with forward slashes.
 """
 
+from datetime import datetime
 from pathlib import Path
 
 from . import sjis
 
 
-class RunTimeFailure(Exception):
+class ProgramEnd(Exception):
+    """What ends the program in the middle of a run."""
+
+
+class RunTimeFailure(ProgramEnd):
     """What ends a run in the error report. The number is the one that the report shows."""
 
     def __init__(self, number: int):
@@ -25,10 +30,13 @@ NO_SUCH_FOLDER = 76
 
 
 class Drive(dict[str, bytes]):
-    """All files of the drive by their paths, and the folders that stand on it."""
+    """All files of the drive by their paths, the folders that stand on it, and known file times."""
 
-    def __init__(self, files: dict[str, bytes], more_folders: list[str]):
+    def __init__(
+        self, files: dict[str, bytes], more_folders: list[str], times: dict[str, datetime]
+    ):
         super().__init__(files)
+        self._times = times
         self._folders = {""}
         for path in [*files, *more_folders]:
             parts = path.split("/")
@@ -42,10 +50,20 @@ class Drive(dict[str, bytes]):
         return next((name for name in self if name.lower() == path.lower()), None)
 
     def lines_of(self, path: str) -> list[str]:
+        return read_lines(self.bytes_of(path))
+
+    def bytes_of(self, path: str) -> bytes:
         name = self.find(path)
         if name is None:
             raise RunTimeFailure(NO_SUCH_FILE)
-        return read_lines(self[name])
+        return self[name]
+
+    def time_of(self, path: str) -> datetime:
+        """When a file that is there was written last."""
+        name = self.find(path)
+        if name not in self._times:
+            raise ValueError(f"give {path} a time: without it the result changes with the day")
+        return self._times[name]
 
     def delete(self, *paths: str) -> None:
         for path in paths:

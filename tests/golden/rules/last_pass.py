@@ -1,7 +1,7 @@
 """The last pass: Hamlog rows become the result rows of fifteen columns."""
 
 from .disk import Drive, FieldReader, LineWriter
-from .marks import FOREIGN_MARK, NO_QSL_LETTER
+from .marks import FOREIGN_MARK
 from .options import Options
 from .orders import HAMLOG_COLUMNS
 from .sjis import trim
@@ -16,23 +16,25 @@ LONG_MODES = {
 }
 
 
-def write_result(files: Drive, source: str, target: str, options: Options) -> int:
+def write_result(
+    files: Drive, source: str, target: str, options: Options, no_qsl_letter: str
+) -> int:
     """Gives the number of rows with a name."""
     named = 0
     out = LineWriter(files, target)
     for row in FieldReader(files, source).records(HAMLOG_COLUMNS):
         named += trim(row[11]) != ""
-        out.write_quoted(result_row(row, options))
+        out.write_quoted(result_row(row, options, no_qsl_letter))
     return named
 
 
-def result_row(row: list[str], options: Options) -> list[str]:
+def result_row(row: list[str], options: Options, no_qsl_letter: str) -> list[str]:
     (_, _, date, time, sent, received, frequency, mode, code, locator, qsl, name, qth,
      remark_1, remark_2, own_call, call) = row  # fmt: skip
     if FOREIGN_MARK in remark_1 or FOREIGN_MARK in remark_2:
         remark_1 = remark_1.replace(FOREIGN_MARK, "")
         remark_2 = remark_2.replace(FOREIGN_MARK, "")
-    qsl = qsl.replace(NO_QSL_LETTER + options.sent_mark, NO_QSL_LETTER + " ")
+    qsl = qsl.replace(no_qsl_letter + options.sent_mark, no_qsl_letter + " ")
     if own_call != "":
         remark_1 = remark_1.replace(own_call, "")
         remark_2 = remark_2.replace(own_call, "")

@@ -10,7 +10,6 @@ from .sjis import trim
 BASE, PORTABLE, DATE, TIME, QSL, REMARK_1, REMARK_2 = 0, 1, 2, 3, 10, 13, 14
 
 FOREIGN_MARK = "$DX"
-NO_QSL_LETTER = "N"  # the letter of a first start
 
 
 def turn_marks(files: Drive, names: Names, options: Options) -> None:
@@ -50,14 +49,14 @@ def write_original_marks(files: Drive, names: Names) -> None:
         out.write_quoted([row[BASE], row[PORTABLE], row[DATE], row[TIME], row[QSL][:1]])
 
 
-def rewrite_letter(files: Drive, names: Names) -> None:
+def rewrite_letter(files: Drive, names: Names, letter: str) -> None:
     for path in (names.hamlog_rows, names.contest_rows):
         rows = read_rows(files, path)
         out = LineWriter(files, path)
         for row in rows:
             mark = row[QSL]
             if mark.startswith(NO_QSL):
-                mark = NO_QSL_LETTER + mark[1:2] + " "
+                mark = letter + mark[1:2] + " "
             out.write_quoted(with_mark(row, mark))
 
 

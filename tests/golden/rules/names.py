@@ -4,7 +4,12 @@ from .disk import folder_of
 
 QSL_FOLDER = "veldrana/qsl_dir/"
 
+HISTORY_FOLDER = "veldrana/Temp_Files/"
+
 ORG_QSL = QSL_FOLDER + "org_qsl.csv"
+HISTORY_TIMES = "veldrana/Veldrana_fdt.ini"
+# Nothing writes it any more; each run begins with deleting it.
+OLD_HISTORY_INDEX = HISTORY_FOLDER + "bak_qso.HDX"
 
 # The scratch files stand in the root of the drive.
 SORT_IN = "Sort-in.dat"
@@ -20,6 +25,14 @@ HAMLOG_UNSORTED = "temp_h.csv"
 HAMLOG_SORTED = "temp_hs.csv"
 DUPES_UNSORTED = "zlog_3.txt"
 DUPES_SORTED = "zlog_4.txt"
+WORKED = "bak_1.txt"
+WORKED_SORTED = "bak_2.txt"
+WORKED_ONCE = "bak_3.txt"
+
+
+def history(index: int) -> str:
+    """The history file of a button of Option07."""
+    return f"{HISTORY_FOLDER}bak_qso.mas{index}_p"
 
 
 class Names:

@@ -8,11 +8,12 @@ REMARK_SLOTS = [f"lblRmks{remark}({slot})" for remark in (1, 2) for slot in rang
 # What Veldrana_new.ini stores: radio groups by the index of their button, boxes as 0 and 1.
 # A case that sets a control of neither table is refused, so that a slip of the pen is seen.
 STORED = [
+    "Option01",  # the log book: 0 chosen, anything else not
     "Option02",  # the code stage: 0 none, 1 hl_code.mas, 2 contest data, 3 postal master
     "Option04",  # 1: what the code stage found is a source of the rows, and it keeps its code
     "Option05",  # 0 stations worked once apart from the others, 1 together
     "Option06",  # the key: 0 call, band, mode, date, time; 1 call, date, time, band, mode
-    "Option07",  # the history: 0 not used
+    "Option07",  # the history: 0 not used, 1 stations worked, 2 cards sent, 3 cards received
     "Option08",  # the time: 0 as logged, 1 all J, 2 all U, 3 DX in U, 4 JA in J
     "Option09",  # the order: 0 ASCII, 1 JARL, 2 JARL reversed
     "Option1",  # the time of the log: 0 UTC, 1 Japan
@@ -30,9 +31,10 @@ STORED = [
     "Check7",  # qth_mas.txt: the QTH
     "Check16",  # qth_mas.txt: nothing but the name of a portable station
     "Check15",  # read only the operator of txtOp_name
-    "Check19",
+    "Check18",  # read the log book at every run
+    "Check19",  # the history counts on the same band only
     "Check2",  # N becomes J for a whole station
-    "Check20",
+    "Check20",  # the history counts in the same mode only
     "Check21",  # "#" for stations worked once
     "Check3",  # J becomes N for a whole station
     "Check8",  # use a user text
@@ -58,9 +60,6 @@ FIELDS = {
     "lblRmks2(0)": "Rmks2",
 }
 
-# What these would need is not there in the rules yet, so they stay as they are.
-FIXED = {"Option07": "0"}
-
 # One of two boxes going on takes the other off.
 EXCLUDED_BY = {
     "Check2": "Check3",
@@ -76,19 +75,21 @@ class Options:
     def __init__(self, settings: list[tuple[str, str]], stored: StoredOptions):
         self._text_paths = stored.text_paths
         self.priorities = stored.priorities
+        self.period = stored.period
         self._values = {**stored.controls, **FIELDS}
+        self._choose_log_book()
         if stored.controls["Check8"] == "1":
             self._choose_only_text()
         for name, value in settings:
             if name not in self._values:
                 raise ValueError(f"the rules know no control {name}")
             self._set(name, value)
-        for name, value in FIXED.items():
-            if self._values[name] != value:
-                raise ValueError(f"the rules do not know {name}={self._values[name]} yet")
 
     def _set(self, name: str, value: str) -> None:
+        if name == "Option01" and value != "0":
+            raise ValueError("Option01 has one button; only the stored value can leave it unchosen")
         self._values[name] = value
+        self._choose_log_book()
         if value != "1":
             return
         if name in EXCLUDED_BY:
@@ -97,6 +98,11 @@ class Options:
             self._choose_only_text()
         if name in ("Check4_A", "Check4_B") and name not in self._text_paths:
             raise ValueError(f"{name} is taken back: it has no user text")
+
+    def _choose_log_book(self) -> None:
+        """Each button of Option07 but the first takes the log book with it."""
+        if self.choice("Option07") != 0:
+            self._values["Option01"] = "0"
 
     def _choose_only_text(self) -> None:
         """With one user text the box is chosen by itself."""
@@ -109,6 +115,20 @@ class Options:
 
     def choice(self, group: str) -> int:
         return int(self._values[group])
+
+    @property
+    def is_log_book_chosen(self) -> bool:
+        return self.choice("Option01") == 0
+
+    @property
+    def history_index(self) -> int | None:
+        """The button of Option07 whose history file is in use, None without a history.
+
+        Where the log book is not chosen the run takes the choice off the first button. So a history
+        is looked for, under the index 0 of the button that was chosen before.
+        """
+        index = self.choice("Option07")
+        return None if index == 0 and self.is_log_book_chosen else index
 
     @property
     def user_text(self) -> str | None:

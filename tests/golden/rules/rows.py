@@ -12,6 +12,7 @@ from . import names as at
 from . import orders
 from .calls import CallRules
 from .disk import Drive, FieldReader, LineWriter
+from .history import History
 from .names import Names
 from .options import Options
 from .remarks import RemarkComposer, with_text_remark
@@ -26,11 +27,13 @@ NO_QSL = "N"
 def build_rows(
     files: Drive, names: Names, options: Options, calls: CallRules, sources: Sources
 ) -> int:
-    """Gives the number of contacts that the club rule marked."""
+    """Gives how often the history or the club rule marked a contact; it may be both."""
     contacts = FieldReader(files, names.coded_lines)
     for_sort = LineWriter(files, at.SORT_IN)
     for_contest = LineWriter(files, at.ROWS_FOR_CONTEST)
     for_hamlog = LineWriter(files, at.ROWS_FOR_HAMLOG)
+    index = options.history_index
+    past = None if index is None else History(files, at.history(index))
     sources.load_for_rows()
     no_qsl = 0
     for contact in contacts.records(17):
@@ -46,6 +49,9 @@ def build_rows(
         remark_2 = composer.compose(2)
 
         mark = options.transfer_mark
+        if past is not None and past.covers(call, frequency, mode, options):
+            mark = NO_QSL
+            no_qsl += 1
         if options.is_on("Check10") and calls.is_club(base):
             mark = NO_QSL
             no_qsl += 1

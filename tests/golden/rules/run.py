@@ -3,13 +3,13 @@
 from dataclasses import dataclass
 from pathlib import Path
 
-from . import code_stage, dupe_list, last_pass, marks, rows, split_merge, text_logs
+from . import code_stage, dupe_list, history, last_pass, marks, rows, split_merge, text_logs
 from .calls import CallRules
 from .case import Case
 from .contest_data import Contest, choose_contest
 from .counters import counter_lines
-from .disk import Drive, LineWriter, RunTimeFailure, files_in, load_tree
-from .names import QSL_FOLDER, Names
+from .disk import Drive, LineWriter, ProgramEnd, files_in, load_tree
+from .names import HISTORY_FOLDER, OLD_HISTORY_INDEX, QSL_FOLDER, Names
 from .options import CONTEST_DATA, STORED, Options
 from .settings import (
     OPTION_FILE,
@@ -36,7 +36,7 @@ class Outcome:
 
 def run(case: Case) -> Outcome:
     station = {PROGRAM_FOLDER + path: raw for path, raw in load_tree(DEFAULT_STATION).items()}
-    files = Drive(station | load_tree(case.input), [QSL_FOLDER])
+    files = Drive(station | load_tree(case.input), [QSL_FOLDER, HISTORY_FOLDER], case.times)
     names = Names(case.log)
     environment = read_environment(files)
     options = Options(case.settings, read_stored_options(files, station[OPTION_FILE], STORED))
@@ -47,25 +47,31 @@ def run(case: Case) -> Outcome:
         contest = choose_contest(files, environment, case.contest)
 
     counters = ""
+    status = REFUSED
     if is_ready(files, case, options, contest):
-        try:
-            counters = convert(files, case.log, names, options, environment, contest)
-            status = DONE
-        except RunTimeFailure:
-            status = FAILED
-    else:
-        status = REFUSED
-    left = files_in(files, names.folder) | files_in(files, QSL_FOLDER)
+        delete_old_index(files)
+        if not options.lacks_choice_of_text:
+            try:
+                counters = convert(files, case.log, names, options, environment, contest)
+                status = DONE
+            except ProgramEnd:
+                status = FAILED
+    folders = (names.folder, QSL_FOLDER, HISTORY_FOLDER)
+    left = {path: raw for folder in folders for path, raw in files_in(files, folder).items()}
     return Outcome(status, left, counters)
 
 
 def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None) -> bool:
-    """Whether the start button is on and does something."""
+    """Whether the start button is on."""
     if not text_logs.accepts(case.log, files[case.log]):
         return False
-    if options.choice("Option02") == CONTEST_DATA and contest is None:
-        return False
-    return not options.lacks_choice_of_text
+    return options.choice("Option02") != CONTEST_DATA or contest is not None
+
+
+def delete_old_index(files: Drive) -> None:
+    name = files.find(OLD_HISTORY_INDEX)
+    if name is not None:
+        files.delete(name)
 
 
 def convert(
@@ -77,6 +83,7 @@ def convert(
     contest: Contest | None,
 ) -> str:
     sources = Sources(files, options, environment)
+    history.refresh(files, options, environment)
     text_logs.read_text_log(log, files[log], options, LineWriter(files, names.log_lines))
     code_stage.write_coded_lines(files, names, options, environment, contest)
     no_qsl = rows.build_rows(files, names, options, CallRules(), sources)
@@ -86,9 +93,14 @@ def convert(
 
     marks.turn_marks(files, names, options)
     marks.write_original_marks(files, names)
-    marks.rewrite_letter(files, names)
-    last_pass.write_result(files, names.hamlog_rows, names.hamlog_result, options)
-    named = last_pass.write_result(files, names.contest_rows, names.contest_result, options)
+    letter = environment.no_qsl_letter
+    if letter != "N":
+        marks.rewrite_letter(files, names, letter)
+    marks.rewrite_letter(files, names, letter)
+    last_pass.write_result(files, names.hamlog_rows, names.hamlog_result, options, letter)
+    named = last_pass.write_result(
+        files, names.contest_rows, names.contest_result, options, letter
+    )
     files.delete(names.hamlog_rows, names.contest_rows, names.hamlog_split, names.contest_split)
     files.delete(names.reversed_rows)
     return counter_lines(lines, multiples, singles, no_qsl, named, sources.text_hits)

@@ -3,6 +3,7 @@
 from dataclasses import dataclass
 
 from .disk import Drive, read_lines
+from .numbers import leading_digits
 from .sjis import decode, encode, to_unicode, trim, upper
 
 PROGRAM_FOLDER = "veldrana/"
@@ -20,6 +21,10 @@ NEEDED_PATHS = (
 
 PRIORITY_KEYS = {"name": "name_yusen_jun", "code": "code_yusen_jun", "qth": "qth_yusen_jun"}
 DEFAULT_PRIORITY = "dat_mas,name_mas,qth_mas,Text_data"
+PERIOD_KEYS = ("Start_date", "End_date", "use_system_date_flag")
+FIRST_DATE = "19600101"
+# A period that ends today ends behind it, wherever the clock stands.
+SURELY_PAST = 20251231
 TEXT_PATH_KEYS = {"Check4_A": "Text_data_dir_A", "Check4_B": "Text_data_dir_B"}
 
 
@@ -54,6 +59,8 @@ class Environment:
     name_mas: str | None
     qth_mas: str | None
     postal_folder: str | None
+    log_book: str
+    no_qsl_letter: str
 
 
 def read_environment(files: Drive) -> Environment:
@@ -68,9 +75,21 @@ def read_environment(files: Drive) -> Environment:
         name_mas=None if name_folder is None else name_folder + "name_mas.txt",
         qth_mas=used_path(values["qth_mas_dir"]),
         postal_folder=used_path(values["yubin_mas_dir"]),
+        log_book=drive_path(values["hamlog_hdb_dir"]),
+        no_qsl_letter=stored_letter(profile),
     )
     check_start(files, environment)
     return environment
+
+
+def stored_letter(profile: Profile) -> str:
+    """The letter of contacts that need no card."""
+    if profile.value("Veldrana_cfg.ini", "No_QSL_moji_set_flag") in ("", "0"):
+        return "N"
+    letter = profile.value("Veldrana_cfg.ini", "No_QSL_moji")
+    if len(letter) != 1:
+        raise ValueError("the rules know a No QSL letter of one character only")
+    return letter
 
 
 def check_start(files: Drive, environment: Environment) -> None:
@@ -98,22 +117,38 @@ def drive_path(value: str) -> str:
 
 
 @dataclass
+class Period:
+    """The dates between which a contact of the log book counts, both ends with them."""
+
+    first: int  # yyyymmdd
+    last: int | None  # None: today
+
+    def holds(self, date: int) -> bool:
+        if self.last is not None:
+            return self.first <= date <= self.last
+        if date > SURELY_PAST:
+            raise ValueError("set use_system_date_flag=0: a contact may lie behind today")
+        return self.first <= date
+
+
+@dataclass
 class StoredOptions:
     """What Veldrana_new.ini gives to the main screen."""
 
     controls: dict[str, str]
     text_paths: dict[str, str]  # the paths of the user texts, by the box that chooses each
     priorities: dict[str, list[str]]
+    period: Period
 
 
 def read_stored_options(files: Drive, default: bytes, controls: list[str]) -> StoredOptions:
     """The options of a case. `default` is the file of the default station.
 
-    The rules look at these `controls` alone, at the user texts and at the priorities. A case that
-    changes another key is refused, so that a slip of the pen is seen.
+    The rules look at these `controls` alone, at the user texts, the period and the priorities. A
+    case that changes another key is refused, so that a slip of the pen is seen.
     """
     profile = Profile(files[OPTION_FILE])
-    looked_at = [upper(key) for key in (*controls, *TEXT_PATH_KEYS.values())]
+    looked_at = [upper(key) for key in (*controls, *PERIOD_KEYS, *TEXT_PATH_KEYS.values())]
     section = "Veldrana_new.ini"
     usual = Profile(default)
     for key in {*profile.keys(section), *usual.keys(section)} - {*looked_at}:
@@ -135,6 +170,16 @@ def read_stored_options(files: Drive, default: bytes, controls: list[str]) -> St
             column: priority_list(profile.value("DAT_MAS", key))
             for column, key in PRIORITY_KEYS.items()
         },
+        period=read_period(*(profile.value(section, key) for key in PERIOD_KEYS)),
+    )
+
+
+def read_period(first: str, last: str, follows_today: str) -> Period:
+    last = "" if follows_today == "1" else last.replace("/", "").replace("-", "")
+    # The first date keeps its slashes, and so is no more than its year.
+    return Period(
+        first=leading_digits(first or FIRST_DATE),
+        last=leading_digits(last) if last != "" else None,
     )
 
 
