@@ -13,7 +13,7 @@ cmake --build --preset release --target veldrana-batch | tail -n 1
 demo=build/demo
 rm -rf "$demo"
 mkdir -p "$demo"
-cp -r samples/{logs,veldrana,zlog,mas,yubin} "$demo"
+cp -r samples/{logs,veldrana,zlog,mas,yubin,hamlog} "$demo"
 log="$demo/logs/allja_sample.all"
 veldrana() { build/bin/veldrana-batch --drive "C=$demo" --home "$demo/veldrana" "$@"; }
 
@@ -44,10 +44,11 @@ echo "The first start makes the files of the settings and asks to look them over
 veldrana convert "$log" && exit 1
 
 echo
-echo "The second start goes on, with names, codes and places. The counters of the run:"
+echo "The second start goes on, with names, codes and places, and no card for those who had one"
+echo "already. The counters of the run:"
 veldrana --set "lblRmks1(0)=memo" --set "lblRmks1(1)=OP" --set "Check1=1" --set "Check10=1" \
     --set "Check06=1" --set Check03=1 --set Check14=1 --set Option02=2 --set Option04=1 \
-    convert "$log" --contest allja.dat
+    --set Option07=2 convert "$log" --contest allja.dat
 
 echo
 echo "${log%.all}_hjn.csv, in the order of the log:"

@@ -238,8 +238,6 @@ LOG_BOOKS = {
     "history-short-header": own_table(SOME_STATIONS)[:31],
     "history-no-record-length": own_table([])[:10] + bytes(2) + own_table([])[12:],
     "history-header-length-31": own_table([])[:8] + bytes([31, 0]) + own_table([])[10:],
-    "history-log-book-not-chosen": own_table(SOME_STATIONS),
-    "history-log-book-not-chosen-with-file": own_table(SOME_STATIONS),
     "history-log-book-chosen-by-other-button": own_table(SOME_STATIONS),
     "history-call-of-sentinel": own_table([
         Contact("YYYYYY", mode="SSB"), Contact("ZZZZZZ"), Contact("ZZZZZY"),
