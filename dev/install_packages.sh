@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build ccache
     libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
-    clang-format-14 clang-tidy-14
+    clang-format-14 clang-tidy-14 clang-14
     python3 util-linux
 )
 

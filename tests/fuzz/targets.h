@@ -1,0 +1,20 @@
+// What the fuzzer feeds with bytes of its own making: everything that reads files which others
+// wrote. A target ends as its reader does, in a result or in a failure that the program reports;
+// anything else is a finding.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace veldrana {
+
+struct FuzzTarget {
+    std::string_view name;  // also of the folder of its inputs below corpus/
+    void (*run)(std::string_view bytes);
+};
+
+std::span<const FuzzTarget> fuzz_targets();
+
+void fuzz_log_book(std::string_view bytes);
+
+}  // namespace veldrana
