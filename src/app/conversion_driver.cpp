@@ -66,10 +66,10 @@ void enable_results(Program& program) {
 
 void henkan_at_2_t(Program& program, const RunOptions& options) {
     enter_procedure(program.trace, "Private Sub henkan_at_2_t()", [&] {
-        const TextLogRequest request{.in_name = program.log.in_name,
-                                     .in_Dir = program.log.in_Dir,
-                                     .options = options,
-                                     .use = program.remark_use};
+        const LogRequest request{.in_name = program.log.in_name,
+                                 .in_Dir = program.log.in_Dir,
+                                 .options = options,
+                                 .use = program.remark_use};
         if (program.log.f_type == InputKind::all) {
             program.kept_lines = a_2_t(program.stage(), request);
         } else {

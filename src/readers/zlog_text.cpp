@@ -4,6 +4,7 @@
 
 #include "common/procedure.h"
 #include "common/text.h"
+#include "readers/contact_writer.h"
 #include "readers/log_line.h"
 
 namespace veldrana {
@@ -174,34 +175,7 @@ LogLine take_columns(const FixedColumns& line, const Form& form) {
     return contact;
 }
 
-// Writes the contacts of a log that pass the operator filter, and counts them.
-class ContactWriter {
-  public:
-    ContactWriter(const Stage& stage, const TextLogRequest& request)
-        : output_(stage.open_output(std::string(request.in_Dir).append(log_line_file))),
-          filter_(request.options.Check15 ? request.options.txtOp_name : std::string()) {}
-
-    void write(const LogLine& contact) {
-        if (filter_.empty() || contact.op == filter_) {
-            put(line_, contact);
-            output_.write_line(line_.text());
-            ++kept_;
-        }
-    }
-
-    std::size_t close() {
-        output_.close();
-        return kept_;
-    }
-
-  private:
-    TextOutput output_;
-    std::string filter_;
-    QuotedLine line_;
-    std::size_t kept_ = 0;
-};
-
-std::size_t read_log(const Stage& stage, const TextLogRequest& request, const Form& form) {
+std::size_t read_log(const Stage& stage, const LogRequest& request, const Form& form) {
     const RunOptions& options = request.options;
     const RemarkUse& use = request.use;
     const bool want_operator = form.wants_operator(options, use);
@@ -319,12 +293,12 @@ std::string get_memo_all(std::string_view line, InputKind kind, const RemarkUse&
     return std::string(trim(memo));
 }
 
-std::size_t a_2_t(const Stage& stage, const TextLogRequest& request) {
+std::size_t a_2_t(const Stage& stage, const LogRequest& request) {
     return enter_procedure(stage.trace, "Private Sub a_2_t()", ErrorLine::number_only,
                            [&] { return read_log(stage, request, all_form); });
 }
 
-std::size_t t_2_t(const Stage& stage, const TextLogRequest& request) {
+std::size_t t_2_t(const Stage& stage, const LogRequest& request) {
     return enter_procedure(stage.trace, "Private Sub t_2_t()", ErrorLine::number_only,
                            [&] { return read_log(stage, request, txt_form); });
 }

@@ -12,28 +12,20 @@
 
 #include "platform/stage.h"
 #include "readers/input_kind.h"
+#include "readers/log_request.h"
 #include "settings/remark_items.h"
-#include "settings/run_options.h"
 
 namespace veldrana {
 
 // What the heading line of a text log begins with.
 std::string_view heading_of(InputKind kind);
 
-// What a reader of a text log is told.
-struct TextLogRequest {
-    std::string_view in_name;  // full path of the log
-    std::string_view in_Dir;   // folder of zlog_1.txt, with a backslash at its end
-    const RunOptions& options;
-    const RemarkUse& use;
-};
-
 // Both write zlog_1.txt anew and return how many lines were kept. t_2_t differs in more than its
 // columns: it takes the year from the options, mends a one-digit month, leaves the mode as it is,
 // and looks for operators in fewer cases, so that Check15 with a name and no operator item in a
 // remark drops every line. Kept: operators rely on either.
-std::size_t a_2_t(const Stage& stage, const TextLogRequest& request);
-std::size_t t_2_t(const Stage& stage, const TextLogRequest& request);
+std::size_t a_2_t(const Stage& stage, const LogRequest& request);
+std::size_t t_2_t(const Stage& stage, const LogRequest& request);
 
 // The frequency in MHz: 7.012 for "(7012)" or "(7.012)". Empty if the text behind the first "(",
 // up to the next one and without every ")", is not 4 to 7 characters long.

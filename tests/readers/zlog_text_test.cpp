@@ -85,7 +85,7 @@ class ZlogText : public StageFixture {
 
     std::vector<std::vector<std::string>> read_bytes_of(InputKind kind, const std::string& bytes) {
         disk.put("C:\\log\\x", bytes);
-        const TextLogRequest request{
+        const LogRequest request{
             .in_name = "C:\\log\\x", .in_Dir = "C:\\log\\", .options = options, .use = use};
         kept = kind == InputKind::all ? a_2_t(stage, request) : t_2_t(stage, request);
         std::vector<std::vector<std::string>> contacts;
