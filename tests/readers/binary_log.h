@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/code_page_932.h"
+#include "readers/rtcl_log.h"
 
 namespace veldrana {
 
@@ -91,5 +92,61 @@ struct ZloContactBytes {
 inline std::string zlo_heading(std::string_view contest_name) {
     return RecordBytes(256, '\x7E').put_counted(175, contest_name).bytes();
 }
+
+// A record of an RTCL log; texts are filled with blanks, what no field covers with other bytes.
+struct RtclContactBytes {
+    std::string kind = "00001";
+    std::string band = "7";
+    std::uint32_t counter = 1521741824 + 64 * 12000;
+    std::string mode = "CW";
+    std::string second_mode = {};
+    unsigned dupe = 0;
+    double days = april_26 + day_part(21, 5, 59);
+    std::string call = "JA1ZZA";
+    std::string report_sent = "599";
+    std::string exchange_sent = "11M";
+    std::string text_sent = {};
+    std::string report_received = "589";
+    std::string exchange_received = "104M";
+    std::string text_received = {};
+    unsigned points = 1;
+    std::string multiplier_1 = {};
+    std::string multiplier_2 = {};
+    std::string third_text = {};
+    std::string op = {};
+    std::string comment = {};
+
+    std::string bytes(RtclForm form) const {
+        const bool is_new = form == RtclForm::from_430;
+        RecordBytes record(is_new ? 209 : 203, '\x7E');
+        const auto text = [&](std::size_t old_at, std::size_t new_at, std::size_t size,
+                              const std::string& value) {
+            std::string page = to_code_page(value);
+            page.resize(size, ' ');
+            record.put(is_new ? new_at : old_at, page);
+        };
+        text(0, 0, 5, kind);
+        text(5, 5, 4, band);
+        record.put_number(is_new ? 12 : 9, counter, 4);
+        text(14, 17, 5, mode);
+        text(19, 22, 5, second_mode);
+        record.put_number(is_new ? 27 : 24, dupe, 1);
+        record.put_double(is_new ? 29 : 26, days);
+        text(34, 37, 13, call);
+        text(47, 50, 6, report_sent);
+        text(53, 56, 25, exchange_sent);
+        text(78, 81, 10, text_sent);
+        text(88, 91, 6, report_received);
+        text(94, 97, 25, exchange_received);
+        text(119, 122, 10, text_received);
+        record.put_number(is_new ? 132 : 129, points, 1);
+        text(131, 134, is_new ? 10 : 6, multiplier_1);
+        text(137, 144, is_new ? 8 : 6, multiplier_2);
+        text(143, 152, 6, third_text);
+        text(155, 164, 6, op);
+        text(165, 174, 20, comment);
+        return record.bytes();
+    }
+};
 
 }  // namespace veldrana

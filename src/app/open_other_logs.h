@@ -1,0 +1,31 @@
+// Owns how the logs that are no zLog text are chosen and tested: Cabrillo, ADIF, binary zLog, RTCL
+// and Ctestwin, each by its own menu entries.
+#pragma once
+
+#include "app/program.h"
+
+namespace veldrana {
+
+void FileOpen_cbr(Program& program);
+void FileOpen_ADIF(Program& program);
+
+// From wherever the last dialog ended, and from the folder of such logs.
+void mnuOpen_z_Click(Program& program);
+void mnuOpen_z_set_Click(Program& program);
+
+void FileOpen_rtcl_log_set_new4(Program& program);
+void FileOpen_rtcl_log_set_new430(Program& program);
+
+// Has the converter beside the program make a text of the log; a run then reads that text.
+void mnuOpen_Ctestwin_lg8_Click(Program& program);
+
+// A binary log of zLog as a text beside it, and that text in the viewer.
+void mnuMake_z2a_Click(Program& program);
+void mnuDisp_z2a_Click(Program& program);
+// The text that a run has made of an RTCL log.
+void mnuDisp_log2a_Click(Program& program);
+
+// The menu entry that opens logs of a kind.
+MenuEntry& open_entry(MainScreen& screen, InputKind kind);
+
+}  // namespace veldrana
