@@ -18,20 +18,6 @@ namespace {
 constexpr std::size_t full_path_width = 60;
 constexpr std::size_t shortened_path_width = 49;
 
-void show_dat_file(MainScreen& screen, const std::string& path) {
-    const std::string shown =
-        LenMbcs(path) > full_path_width ? shortened_path(path, shortened_path_width) : path;
-    for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
-        label->show(shown, colours::blue);
-    }
-}
-
-// The path lives in its own file until the program ends.
-void keep_dat_file(Program& program) {
-    program.settings.set_dat_in_name = program.selection.dat.dat_in_name;
-    program.settings.write_dat_ini();
-}
-
 // What the dialog left undecided stands as the file that is there tells.
 void enable_by_presence(Program& program) {
     const bool there = has_dat(program) &&
@@ -91,6 +77,19 @@ DatFolders dat_folders(const Program& program) {
 
 bool has_dat(const Program& program) {
     return has_backslash(program.selection.dat.dat_in_name);
+}
+
+void show_dat_file(MainScreen& screen, const std::string& path) {
+    const std::string shown =
+        LenMbcs(path) > full_path_width ? shortened_path(path, shortened_path_width) : path;
+    for (Label* const label : {&screen.lblDatName, &screen.Label37}) {
+        label->show(shown, colours::blue);
+    }
+}
+
+void keep_dat_file(Program& program) {
+    program.settings.set_dat_in_name = program.selection.dat.dat_in_name;
+    program.settings.write_dat_ini();
 }
 
 void ask_for_dat_file(MainScreen& screen) {

@@ -12,6 +12,12 @@ bool has_dat(const Program& program);
 // Asks for a contest data file, in red.
 void ask_for_dat_file(MainScreen& screen);
 
+// Shows the path of a data file in blue, shortened where it is long.
+void show_dat_file(MainScreen& screen, const std::string& path);
+
+// Keeps the path of the data file in its own file, where it lives until the program ends.
+void keep_dat_file(Program& program);
+
 // Opens the contest dialog; does nothing unless a log is chosen.
 void mnuOpenDat_semi_Click(Program& program);
 

@@ -5,11 +5,13 @@
 #include "app/chosen_log.h"
 #include "app/contest_choice.h"
 #include "app/conversion_end.h"
+#include "app/log_opening.h"
 #include "app/open_text_log.h"
 #include "app/option_table.h"
 #include "app/read_history.h"
 #include "app/remark_slot_settings.h"
 #include "app/replacement_run.h"
+#include "app/rtcl_tool.h"
 #include "app/start_up.h"
 #include "app/work_files.h"
 #include "common/file_path.h"
@@ -17,12 +19,20 @@
 #include "common/text.h"
 #include "masters/run_masters.h"
 #include "output/dupe_list.h"
+#include "output/output_names.h"
 #include "output/output_orders.h"
 #include "output/output_request.h"
 #include "output/split_merge.h"
 #include "platform/text_file.h"
 #include "qsl/history.h"
+#include "readers/adif.h"
+#include "readers/cabrillo.h"
+#include "readers/ctestwin.h"
 #include "readers/log_line.h"
+#include "readers/log_request.h"
+#include "readers/rtcl_log.h"
+#include "readers/rtcl_to_zlog.h"
+#include "readers/zlo_log.h"
 #include "readers/zlog_text.h"
 #include "rows/code_stage.h"
 #include "rows/remark_slots.h"
@@ -64,18 +74,70 @@ void enable_results(Program& program) {
     show_former_dupe_list(program);
 }
 
+LogRequest log_request(const Program& program, const RunOptions& options) {
+    return {.in_name = program.log.in_name,
+            .in_Dir = program.log.in_Dir,
+            .options = options,
+            .use = program.remark_use};
+}
+
 void henkan_at_2_t(Program& program, const RunOptions& options) {
     enter_procedure(program.trace, "Private Sub henkan_at_2_t()", [&] {
-        const LogRequest request{.in_name = program.log.in_name,
-                                 .in_Dir = program.log.in_Dir,
-                                 .options = options,
-                                 .use = program.remark_use};
-        if (program.log.f_type == InputKind::all) {
-            program.kept_lines = a_2_t(program.stage(), request);
+        if (program.log.f_type == InputKind::txt) {
+            program.kept_lines_of_txt = t_2_t(program.stage(), log_request(program, options));
         } else {
-            program.kept_lines_of_txt = t_2_t(program.stage(), request);
+            program.kept_lines = a_2_t(program.stage(), log_request(program, options));
         }
     });
+}
+
+// An RTCL log becomes a .ALL text, which the run goes on with.
+void unpack_rtcl(Program& program, RtclForm form) {
+    const Stage stage = program.stage();
+    ChosenLog& log = program.log;
+    const std::string text = log.in_Dir + std::string(zlog_01_file);
+    const std::string unpacked = unpack_rtcl_log(stage, log.in_name, form, program.paths.strPath);
+    make_rtcl_log_to_zlog_all(
+        stage, unpacked, rtcl_heading_of_run,
+        {program.paths.drive_path + std::string(zlog_01_file), text, log2a_name(log.in_name)});
+    program.screen.mnuDisp_log2a.enabled = true;
+    log.in_name = text;
+}
+
+// The log becomes zlog_1.txt.
+void read_log(Program& program, const RunOptions& options) {
+    const Stage stage = program.stage();
+    ChosenLog& log = program.log;
+    switch (log.f_type.value_or(InputKind::all)) {
+        case InputKind::all:
+        case InputKind::txt:
+            henkan_at_2_t(program, options);
+            break;
+        case InputKind::zlo:
+            program.kept_lines = read_zlo(stage, log_request(program, options));
+            break;
+        case InputKind::cbr: {
+            const CabrilloContacts contacts = henkan_cbr_2_t(stage, log_request(program, options));
+            show_record_count(program, contacts.counted, "件");
+            program.kept_lines = contacts.kept;
+            break;
+        }
+        case InputKind::ADIF:
+            program.kept_lines = henkan_ADIF_2_t(stage, log_request(program, options));
+            break;
+        case InputKind::lg8:
+            log.in_name = lg8bridge_all_name(log.in_name);
+            program.kept_lines = a_2_t(stage, log_request(program, options));
+            break;
+        case InputKind::log_v4:
+            unpack_rtcl(program, RtclForm::before_430);
+            program.kept_lines = a_2_t(stage, log_request(program, options));
+            break;
+        case InputKind::log_v430:
+            unpack_rtcl(program, RtclForm::from_430);
+            program.kept_lines = a_2_t(stage, log_request(program, options));
+            break;
+    }
 }
 
 void delete_intermediate_files(Program& program) {
@@ -152,6 +214,7 @@ std::size_t Henkan_txt_2(Program& program, const RunOptions& options, const Layo
                                                .layout_2 = layouts.rmks2,
                                                .lengths = program.remark_lengths,
                                                .sources = masters.sources(),
+                                               .contest_name = program.log.contest_name,
                                                .past = past},
                                               program.call_memory);
         stage.sort({.start = 1,
@@ -190,7 +253,11 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
             program.name_mas.read_name_mas_txt(program.stage(), name_mas_dir);
         }
         program.kept_lines = 0;
-        count_in_name(program);
+        const bool counts_itself =
+            program.log.f_type == InputKind::log_v4 || program.log.f_type == InputKind::zlo;
+        if (!counts_itself) {
+            count_in_name(program);
+        }
         Conversion conversion;
         conversion.options = take_options(program);
         const RunOptions& options = conversion.options;
@@ -202,7 +269,7 @@ Conversion cmd_henkan(Program& program, const Layouts& layouts) {
             conversion.options.Option07 = OptionGroup::none;
         }
         read_history(program, options);
-        henkan_at_2_t(program, options);
+        read_log(program, options);
         run_code_stage(program, options);
         conversion.no_qsl =
             Henkan_txt_2(program, options, layouts, options.Option07 != 0 ? &history : nullptr);
@@ -224,6 +291,7 @@ void cmdStart_Click(Program& program) {
     MainScreen& screen = program.screen;
     program.trace.write("");
     enter_procedure(program.trace, "Private Sub cmdStart_Click()", [&] {
+        close_free_viewers(program);
         trace_run(program);
         if (!cmdStart_1(program)) {
             return;
@@ -283,16 +351,23 @@ bool cmdStart_1(Program& program) {
 void count_in_name(Program& program) {
     enter_procedure(program.trace, "Private Sub count_in_name()", [&] {
         MainScreen& screen = program.screen;
-        if (screen.lblIn_name.caption == std::string(not_a_text_log)) {
+        ChosenLog& log = program.log;
+        if (log.f_type == InputKind::zlo || log.f_type == InputKind::ADIF) {
+            return;
+        }
+        const bool refused = screen.lblIn_name.caption == std::string(not_a_text_log);
+        const bool of_rtcl = log.f_type == InputKind::log_v4 || log.f_type == InputKind::log_v430;
+        if (refused && !of_rtcl) {
             screen.lblOut_name1.caption = "";
             screen.lblOut_name2.caption = "";
             return;
         }
-        const auto at_end =
-            static_cast<Count>(line_number_at_end(program.disk, program.log.in_name));
-        program.log.record_count = right_aligned(at_end - 2, 4);
-        screen.lblIn_rec.caption = program.log.record_count + " 件";
-        screen.lblCFG.caption = "";
+        if (!refused) {
+            const auto at_end = static_cast<Count>(line_number_at_end(program.disk, log.in_name));
+            log.record_count = right_aligned(at_end - 2, 4);
+            screen.lblCFG.caption = "";
+        }
+        screen.lblIn_rec.caption = log.record_count + " 件";
     });
 }
 

@@ -88,6 +88,8 @@ void end_conversion(Program& program, const Conversion& conversion) {
         warn_of_no_lines(screen);
     }
     settle_marks(program, conversion.options);
+    // The run may have read a text in the place of the log.
+    program.log.in_name = program.log.chosen;
     const std::size_t named = write_result_files(program, conversion.options);
 
     const SplitCounts& counts = conversion.counts;

@@ -146,6 +146,20 @@ struct MainScreen : WindowForm {
     MenuEntry mnuOpen{*this, "mnuOpen", "zlogのﾃﾞｰﾀ ( ALL , TXT ) ﾌｧｲﾙを選ぶ"};
     MenuEntry mnuOpen_all_txt_set{*this, "mnuOpen_all_txt_set",
                                   "zlogのﾃﾞｰﾀ ( ALL , TXT ) を 指定フォルダから選ぶ"};
+    MenuEntry mnuOpen_z{*this, "mnuOpen_z", "zlogのﾃﾞｰﾀ ( ZLO ) ﾌｧｲﾙを選ぶ"};
+    MenuEntry mnuOpen_z_set{*this, "mnuOpen_z_set", "zlogのﾃﾞｰﾀ ( ZLO ) を 指定フォルダから選ぶ"};
+    MenuEntry mnuOpen_cbr{*this, "mnuOpen_cbr", "Cabrillo ファイルを選ぶ"};
+    MenuEntry mnuOpen_ADIF{*this, "mnuOpen_ADIF", "N1MM Logger ADIF ファイルを選ぶ"};
+    MenuEntry mnuOpen_Ctestwin_lg8{*this, "mnuOpen_Ctestwin_lg8", "Ctestwin lg8 ファイルを選ぶ"};
+    MenuEntry mnuOpen_rtcl_log_set_new4{*this, "mnuOpen_rtcl_log_set_new4",
+                                        "RTCL ( ver 4.30 より前 ) ＊．log ファイルを選ぶ"};
+    MenuEntry mnuOpen_rtcl_log_set_new430{*this, "mnuOpen_rtcl_log_set_new430",
+                                          "RTCL ( ver 4.30 以降 ) ＊．log ファイルを選ぶ"};
+    MenuEntry mnu_rtcl_new4{*this, "mnu_rtcl_new4", "RTCL ( ver 4.30 より前 ) => txt , all 作成"};
+    MenuEntry mnu_rtcl_new430{*this, "mnu_rtcl_new430", "RTCL ( ver 4.30 以降 ) => txt , all 作成"};
+    MenuEntry mnuMake_z2a{*this, "mnuMake_z2a", "＊．zLo  => ＊．all 作成 "};
+    MenuEntry mnuDisp_z2a{*this, "mnuDisp_z2a", "＊．zLo => ＊．all 表示"};
+    MenuEntry mnuDisp_log2a{*this, "mnuDisp_log2a", "＊．log => ＊．all 表示"};
     MenuEntry mnuOpenDat_mnu{*this, "mnuOpenDat_mnu", "個別DATﾌｧｲﾙを指定　（ 手動 ）"};
     MenuEntry mnuOpenDat_semi{*this, "mnuOpenDat_semi", "個別DATﾌｧｲﾙを指定　（ 半自 ）"};
     MenuEntry make_ini{*this, "make_ini", "ini 作成"};
@@ -174,6 +188,7 @@ struct MainScreen : WindowForm {
     MenuEntry mnuJARL_Web_NO_hamj{*this, "mnuJARL_Web_NO_hamj", "hamlogja_n.csv"};
 
     ToolButton tool_open{*this, "開く"};
+    ToolButton tool_open_z{*this, "開 z"};
     ToolButton tool_dat_by_hand{*this, "dat手動"};
     ToolButton tool_dat_by_contest{*this, "dat半自"};
     ToolButton tool_make_ini{*this, "INI作成"};

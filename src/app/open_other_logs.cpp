@@ -39,12 +39,8 @@ constexpr PublicForm cabrillo{
     count_in_name_cbr,
 };
 constexpr PublicForm adif{
-    InputKind::ADIF,
-    "Private Sub FileOpen_ADIF()",
-    "AIF ﾌｧｲﾙ ( *.adi )|*.adi",
-    is_adif,
-    "ADIF ﾌｧｲﾙではありません！",
-    count_in_name_ADIF,
+    InputKind::ADIF, "Private Sub FileOpen_ADIF()", "AIF ﾌｧｲﾙ ( *.adi )|*.adi",
+    is_adif,         "ADIF ﾌｧｲﾙではありません！",   count_in_name_ADIF,
 };
 
 void open_public_form(Program& program, const PublicForm& form) {
@@ -111,8 +107,7 @@ void FileOpen_ADIF(Program& program) {
 
 void mnuOpen_z_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuOpen_z_Click()", [&] {
-        open_zlo(program, program.person.choose_file(
-                              {.filter = "ﾊﾞｲﾅﾘ-ﾌｧｲﾙ ( *.zlo )|*.zlo"}));
+        open_zlo(program, program.person.choose_file({.filter = "ﾊﾞｲﾅﾘ-ﾌｧｲﾙ ( *.zlo )|*.zlo"}));
     });
 }
 
@@ -127,34 +122,32 @@ void mnuOpen_z_set_Click(Program& program) {
 }
 
 void FileOpen_rtcl_log_set_new4(Program& program) {
-    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new4()", [&] {
-        open_rtcl(program, RtclForm::before_430, InputKind::log_v4, "件");
-    });
+    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new4()",
+                    [&] { open_rtcl(program, RtclForm::before_430, InputKind::log_v4, "件"); });
 }
 
 void FileOpen_rtcl_log_set_new430(Program& program) {
-    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new430()", [&] {
-        open_rtcl(program, RtclForm::from_430, InputKind::log_v430, " 件");
-    });
+    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new430()",
+                    [&] { open_rtcl(program, RtclForm::from_430, InputKind::log_v430, " 件"); });
 }
 
 void mnuOpen_Ctestwin_lg8_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuOpen_Ctestwin_lg8_Click()", [&] {
         // How long the converter is waited for before its count is read.
         constexpr std::chrono::milliseconds patience{200};
-        const std::string path =
-            program.person.choose_file({.title = "ファイルを開く",
-                                        .filter = "Ctestwin lg8 ﾌｧｲﾙ ( *.lg8 )|*.lg8"});
+        const std::string path = program.person.choose_file(
+            {.title = "ファイルを開く", .filter = "Ctestwin lg8 ﾌｧｲﾙ ( *.lg8 )|*.lg8"});
         if (path.empty()) {
             return;
         }
-        if (!is_lg8(path)) {
+        if (!is_lg8_name(path)) {
             program.person.show({.text = "正しいファイル名を指定して下さい。"});
             return;
         }
         const std::string& strPath = program.paths.strPath;
-        write_lg8bridge_ini(program.disk, strPath, {path, program.lg8_qso_count});
-        program.processes.start(strPath + std::string(lg8bridge_program));
+        static_cast<void>(
+            write_lg8bridge_ini(program.disk, strPath, {path, program.lg8_qso_count}));
+        program.processes.start(strPath + std::string(lg8bridge_exe));
         program.processes.sleep(patience);
         program.lg8_qso_count = read_lg8bridge_ini(program.disk, strPath).qso_su_str;
         take_log(program, path);

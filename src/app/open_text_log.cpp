@@ -4,6 +4,7 @@
 
 #include "app/chosen_log.h"
 #include "app/contest_choice.h"
+#include "app/log_opening.h"
 #include "app/option_handlers.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
@@ -17,6 +18,7 @@ namespace {
 void refuse(Program& program) {
     program.log.in_name = not_a_text_log;
     program.log.f_type.reset();
+    program.log.accepted = false;
     program.screen.lblIn_name.fore_colour = colours::red;
     program.screen.lblIn_name.caption = std::string(not_a_text_log);
 }
@@ -40,16 +42,10 @@ void open_text_log(Program& program, const std::string& path) {
     if (!has_backslash(path)) {
         return;
     }
-    log.chosen = path;
-    program.disk.protect(path);
-    forget_dat(program);
-    log.in_name = path;
-    program.run_mode = RunMode::conversion;
-    kettuka_disp_clear(program.counters, screen);
-    set_out_names(program);
-
+    take_log(program, path);
     const std::string heading = start_of_file(program, path);
     log.f_type = kind_of_extension(path);
+    log.accepted = true;
     if (!log.f_type || !heading.starts_with(heading_of(*log.f_type))) {
         refuse(program);
     }
@@ -57,6 +53,8 @@ void open_text_log(Program& program, const std::string& path) {
     const bool needs_year = log.f_type == InputKind::txt;
     screen.txtYYYY.enabled = needs_year;
     screen.Frame14.enabled = needs_year;
+    screen.mnuMake_z2a.enabled = false;
+    screen.mnuDisp_z2a.enabled = false;
     // The label shows the log since set_out_names, or that it was refused.
     show_former_outputs(program);
     Op02_Chk(program);
@@ -100,6 +98,7 @@ void mnuOpen_con_n_Click(Program& program) {
         program.disk.protect({});
         program.log.in_name = path;
         program.log.f_type.reset();
+        program.log.accepted = true;
         program.run_mode = RunMode::replacement;
         set_out_names(program);
         check_readiness(program);

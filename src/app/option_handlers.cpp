@@ -8,8 +8,10 @@
 #include "app/chosen_log.h"
 #include "app/contest_choice.h"
 #include "app/option_table.h"
+#include "app/read_zlo_head.h"
 #include "app/remark_slot_settings.h"
 #include "app/source_ranks.h"
+#include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
 #include "masters/master_checks.h"
@@ -165,6 +167,20 @@ void Op07_Chk(Program& program) {
     }
 }
 
+// The heading of a binary log of zLog tells the contest, once contest data are wanted.
+void Option02_Click(Program& program) {
+    Op02_Chk(program);
+    if (program.log.f_type != InputKind::zlo) {
+        return;
+    }
+    MainScreen& screen = program.screen;
+    if (screen.Option02.index == 0 && !has_backslash(program.log.in_name)) {
+        screen.lblInfo.show("入力ファイルを指定して下さい", colours::red);
+    } else if (screen.Option02.index == 2) {
+        read_zlo_head(program);
+    }
+}
+
 // The time rule goes into the snapshot of the options too.
 void Op08_Chk(Program& program) {
     program.settings.write_Veldrana_ini();
@@ -193,7 +209,7 @@ constexpr std::array box_cascades{
     Cascade<CheckBox>{&MainScreen::Check3, Check3_Click},
 };
 constexpr std::array group_cascades{
-    Cascade<OptionGroup>{&MainScreen::Option02, Op02_Chk},
+    Cascade<OptionGroup>{&MainScreen::Option02, Option02_Click},
     Cascade<OptionGroup>{&MainScreen::Option04, Op04_Chk},
     Cascade<OptionGroup>{&MainScreen::Option05, Op05_Chk},
     Cascade<OptionGroup>{&MainScreen::Option07, Op07_Chk},

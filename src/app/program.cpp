@@ -4,10 +4,12 @@
 
 #include "app/contest_choice.h"
 #include "app/conversion_driver.h"
+#include "app/open_other_logs.h"
 #include "app/open_text_log.h"
 #include "app/option_handlers.h"
 #include "app/period_dialog.h"
 #include "app/program_end.h"
+#include "app/rtcl_tool.h"
 #include "app/viewing.h"
 #include "common/procedure.h"
 
@@ -21,14 +23,32 @@ Program::Program(const Ports& outside, std::string_view program_folder,
       sorter(outside.sorter),
       services(outside.services),
       log_book(outside.log_book),
+      processes(outside.processes),
       paths(make_paths(program_folder, windows_folder)),
       settings(disk, clock, paths.strPath),
       hl_code_mas(paths.hl_code_mas) {
+    for (std::size_t i = 0; i < free_viewers.size(); ++i) {
+        free_viewers[i] =
+            std::make_unique<FreeViewer>(disk, paths.strPath, "frmDisp" + std::to_string(i + 2));
+    }
     const auto attach = [this](CommandButton& button, void (*handler)(Program&)) {
         button.Click = [this, handler] { event([this, handler] { handler(*this); }); };
     };
     attach(screen.mnuOpen, mnuOpen_Click);
     attach(screen.mnuOpen_all_txt_set, mnuOpen_all_txt_set_Click);
+    attach(screen.mnuOpen_z, mnuOpen_z_Click);
+    attach(screen.mnuOpen_z_set, mnuOpen_z_set_Click);
+    attach(screen.tool_open_z, mnuOpen_z_set_Click);
+    attach(screen.mnuOpen_cbr, FileOpen_cbr);
+    attach(screen.mnuOpen_ADIF, FileOpen_ADIF);
+    attach(screen.mnuOpen_Ctestwin_lg8, mnuOpen_Ctestwin_lg8_Click);
+    attach(screen.mnuOpen_rtcl_log_set_new4, FileOpen_rtcl_log_set_new4);
+    attach(screen.mnuOpen_rtcl_log_set_new430, FileOpen_rtcl_log_set_new430);
+    attach(screen.mnu_rtcl_new4, mnu_rtcl_new_Click);
+    attach(screen.mnu_rtcl_new430, mnu_rtcl_new_Click);
+    attach(screen.mnuMake_z2a, mnuMake_z2a_Click);
+    attach(screen.mnuDisp_z2a, mnuDisp_z2a_Click);
+    attach(screen.mnuDisp_log2a, mnuDisp_log2a_Click);
     attach(screen.mnuOpen_con_n, mnuOpen_con_n_Click);
     attach(screen.tool_open, mnuOpen_all_txt_set_Click);
     attach(screen.cmdStart, cmdStart_Click);

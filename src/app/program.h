@@ -2,8 +2,10 @@
 // programs in one process do not disturb each other.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -20,6 +22,7 @@
 #include "platform/clock.h"
 #include "platform/disk.h"
 #include "platform/hamlog_library.h"
+#include "platform/process_starter.h"
 #include "platform/services.h"
 #include "platform/stage.h"
 #include "qsl/history_times.h"
@@ -29,6 +32,7 @@
 #include "rows/call_sign.h"
 #include "settings/remark_items.h"
 #include "settings/settings_store.h"
+#include "viewers/frmDisp.h"
 
 namespace veldrana {
 
@@ -40,6 +44,7 @@ struct Ports {
     SortService& sorter;
     Services& services;
     HamlogLibrary& log_book;
+    ProcessStarter& processes;
 };
 
 // The log that was chosen, and the names that follow from it.
@@ -48,6 +53,8 @@ struct ChosenLog {
     std::string in_name;  // the same; a refusal text after it was refused
     std::string in_Dir;   // its folder, with a backslash at its end
     std::optional<InputKind> f_type;
+    bool accepted = false;     // it has passed the test of its kind
+    std::string contest_name;  // as a binary log of zLog names it
     OutputNames names;
     std::string dup;
     std::string record_count;  // as shown, without its unit
@@ -88,6 +95,7 @@ struct Program {
     SortService& sorter;
     Services& services;
     HamlogLibrary& log_book;
+    ProcessStarter& processes;
 
     Paths paths;
     SettingsStore settings;
@@ -114,6 +122,8 @@ struct Program {
     std::size_t name_mas_max = 0;  // the highest number of a numbered name master
     HlCodeMas hl_code_mas;
     DatTable dat_table;
+    // What the converter of Ctestwin logs has counted last.
+    std::string lg8_qso_count;
     RunMode run_mode = RunMode::conversion;
     // Lines that the operator filter let through; .TXT logs are counted apart, and the warning
     // about an operator without lines looks at the first count alone.
@@ -121,6 +131,8 @@ struct Program {
     std::size_t kept_lines_of_txt = 0;
     bool run_finished = false;
     bool viewer_is_open = false;
+    // The input, the .TXT and the .ALL of the tool for RTCL logs.
+    std::array<std::unique_ptr<FreeViewer>, 3> free_viewers;
     // Leaves the work files that the orderly end would delete.
     bool keep_work_files = false;
 

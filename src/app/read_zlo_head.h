@@ -1,5 +1,5 @@
-// Owns the automatic way to a contest: the heading of a binary log of zLog names it, and the contest
-// list tells its data file.
+// Owns the automatic way to a contest: the heading of a binary log of zLog names it, and the
+// contest list tells its data file.
 #pragma once
 
 #include "app/program.h"

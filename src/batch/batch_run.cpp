@@ -1,15 +1,23 @@
 #include "batch/batch_run.h"
 
+#include <chrono>
+
 #include "app/contest_choice.h"
+#include "app/open_other_logs.h"
 #include "app/program.h"
 #include "app/program_end.h"
 #include "app/start_up.h"
 #include "batch/batch_person.h"
+#include "common/file_path.h"
 #include "common/version.h"
 #include "platform/environment.h"
 #include "platform/hamlog_library.h"
 #include "platform/host_disk.h"
+#include "platform/process_starter.h"
+#include "readers/ctestwin.h"
 #include "readers/frmCon_sel.h"
+#include "readers/kind_of_log.h"
+#include "readers/zlo_to_all.h"
 
 namespace veldrana {
 namespace {
@@ -23,7 +31,7 @@ class BatchProgram {
           person_(output.messages, options.answer),
           sorter_(disk_),
           log_book_(make_hamlog_library(disk_)),
-          program_({disk_, clock_, person_, sorter_, services_, *log_book_},
+          program_({disk_, clock_, person_, sorter_, services_, *log_book_, processes_},
                    disk_.program_path(options.home), environment_variable("WINDIR")) {
         program_.keep_work_files = options.keep_work;
         if (output.show_progress) {
@@ -68,20 +76,27 @@ class BatchProgram {
     }
 
     // Chooses the log as its menu entry does; false if it was refused or the program has ended.
-    bool open(const ConvertCommand& command) {
-        person_.choose(disk_.program_path(command.log));
-        program_.screen.mnuOpen.press();
+    bool open(const std::filesystem::path& log, std::optional<InputKind> kind) {
+        const std::string path = disk_.program_path(log);
+        const auto as = kind ? kind : kind_of_log(disk_, path);
+        person_.choose(path);
+        open_entry(program_.screen, as.value_or(InputKind::all)).press();
         if (program_.ended()) {
             return false;
         }
-        if (!program_.log.f_type) {
-            output_.messages << program_.screen.lblIn_name.caption.get() << '\n';
+        if (!program_.log.accepted) {
+            if (!has_backslash(program_.log.in_name)) {
+                output_.messages << program_.log.in_name << '\n';
+            }
             return false;
         }
-        if (command.kind && command.kind != program_.log.f_type) {
+        if (kind && kind != program_.log.f_type) {
             output_.messages << "指定された種類のファイルではありません: " << program_.log.in_name
                              << '\n';
             return false;
+        }
+        if (as == InputKind::lg8) {
+            wait_for(lg8bridge_all_name(path));
         }
         return true;
     }
@@ -123,7 +138,25 @@ class BatchProgram {
         return output_.results.good();
     }
 
+    // Makes the .ALL text of the open log, and tells its path.
+    bool make_z2a() {
+        program_.screen.mnuMake_z2a.press();
+        if (program_.ended()) {
+            return false;
+        }
+        output_.results << z2a_name(program_.log.in_name) << '\n' << std::flush;
+        return output_.results.good();
+    }
+
   private:
+    // A person would look whether the converter is done; the batch program gives it a while.
+    void wait_for(const std::string& path) {
+        constexpr std::chrono::milliseconds step{50};
+        for (int steps = 0; steps < 200 && !disk_.file_exists(path); ++steps) {
+            processes_.sleep(step);
+        }
+    }
+
     bool confirm(frmCon_sel& dialog, const std::string& Dat_name) {
         const int row = dialog.row_of(Dat_name);
         if (row == ListBox::none) {
@@ -179,42 +212,58 @@ class BatchProgram {
     StableSort sorter_;
     OwnServices services_;
     std::unique_ptr<HamlogLibrary> log_book_;
+    HostProcessStarter processes_{disk_};
     Program program_;
     std::size_t shown_percent_ = 0;
 };
 
 }  // namespace
 
-ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
-                   const BatchOutput& output) {
-    BatchProgram batch(options, output);
+namespace {
+
+// How a command ends early; a program that has ended by itself says how.
+ExitStatus ended_with(const Program& program, ExitStatus otherwise) {
+    return program.ended() == ProgramEnd::Cause::reported ? exit_reported : otherwise;
+}
+
+// Starts the program, enters what was set and opens the log; nothing if all went well.
+std::optional<ExitStatus> prepare(BatchProgram& batch, const BatchOptions& options,
+                                  const std::filesystem::path& log, std::optional<InputKind> kind) {
     if (!batch.knows_controls_of(options)) {
         return exit_usage;
     }
-    Program& program = batch.program();
-    // How a command ends early; a program that has ended by itself says how.
-    const auto ended_with = [&program](ExitStatus otherwise) {
-        return program.ended() == ProgramEnd::Cause::reported ? exit_reported : otherwise;
-    };
+    const Program& program = batch.program();
     if (!batch.start()) {
-        return ended_with(exit_refused);
+        return ended_with(program, exit_refused);
     }
     if (!batch.enter(options)) {
         batch.end();
-        return ended_with(exit_usage);
+        return ended_with(program, exit_usage);
     }
-    if (!batch.open(command)) {
-        const ExitStatus status = ended_with(exit_refused);
+    if (!batch.open(log, kind)) {
+        const ExitStatus status = ended_with(program, exit_refused);
         batch.end();
         return status;
     }
+    return std::nullopt;
+}
+
+}  // namespace
+
+ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
+                   const BatchOutput& output) {
+    BatchProgram batch(options, output);
+    if (const auto ended = prepare(batch, options, command.log, command.kind)) {
+        return *ended;
+    }
+    Program& program = batch.program();
     if (!command.contest.empty() && program.screen.Option02.index != 2) {
         output.messages << "--contest は --set Option02=2 と共に使います。\n";
         batch.end();
         return exit_usage;
     }
     if ((!command.contest.empty() && !batch.choose_contest(command.contest)) || !batch.is_ready()) {
-        const ExitStatus status = ended_with(exit_refused);
+        const ExitStatus status = ended_with(program, exit_refused);
         batch.end();
         return status;
     }
@@ -234,6 +283,17 @@ ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
         return exit_reported;
     }
     return done ? exit_done : exit_refused;
+}
+
+ExitStatus z2a(const BatchOptions& options, const std::filesystem::path& log,
+               const BatchOutput& output) {
+    BatchProgram batch(options, output);
+    if (const auto ended = prepare(batch, options, log, InputKind::zlo)) {
+        return *ended;
+    }
+    const bool made = batch.make_z2a();
+    batch.end();
+    return made ? exit_done : exit_reported;
 }
 
 }  // namespace veldrana

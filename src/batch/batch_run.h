@@ -32,7 +32,7 @@ struct BatchOptions {
 
 struct ConvertCommand {
     std::filesystem::path log;
-    std::optional<InputKind> kind = {};  // by the extension where not given
+    std::optional<InputKind> kind = {};  // as readers/kind_of_log.h tells where not given
     std::string contest = {};  // the contest's data file as the contest list names it; empty: none
 };
 
@@ -46,5 +46,9 @@ struct BatchOutput {
 // Converts a log, and writes the result counters, a line each: label, TAB, number.
 ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
                    const BatchOutput& output);
+
+// Makes the .ALL text of a binary log of zLog beside it, and writes the path of the text.
+ExitStatus z2a(const BatchOptions& options, const std::filesystem::path& log,
+               const BatchOutput& output);
 
 }  // namespace veldrana

@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,12 @@ struct Words {
     std::string log;
     std::string kind;
     std::string contest;
+};
+
+const std::map<std::string, InputKind> kinds{
+    {"all", InputKind::all},       {"txt", InputKind::txt},           {"zlo", InputKind::zlo},
+    {"cbr", InputKind::cbr},       {"ADIF", InputKind::ADIF},         {"lg8", InputKind::lg8},
+    {"log_v4", InputKind::log_v4}, {"log_v430", InputKind::log_v430},
 };
 
 bool is_folder(const std::filesystem::path& path) {
@@ -69,8 +76,18 @@ void declare(CLI::App& app, Words& words) {
     convert->add_option("LOG", words.log, "入力ログ")->required();
     convert->add_option("--contest", words.contest,
                         "個別 DAT のファイル名でコンテストを選ぶ (Option02=2 の時)");
-    convert->add_option("--kind", words.kind, "ログの種類: all, txt (省略時は拡張子による)")
-        ->check(CLI::IsMember({"all", "txt"}));
+    std::vector<std::string> names;
+    for (const auto& [name, kind] : kinds) {
+        names.push_back(name);
+    }
+    convert
+        ->add_option("--kind", words.kind,
+                     "ログの種類: all, txt, zlo, cbr, ADIF, lg8, log_v4, log_v430 "
+                     "(省略時は拡張子と内容による)")
+        ->check(CLI::IsMember(names));
+
+    CLI::App* const z2a = app.add_subcommand("z2a", "zLog の ZLO から ALL を作成する");
+    z2a->add_option("LOG", words.log, "入力ログ (zlo)")->required();
 }
 
 BatchOptions options_of(const Words& words, const char* first_word) {
@@ -114,11 +131,15 @@ int run_command_line(int count, char** words, const BatchOutput& output) {
         output.messages << "入力ログを指定して下さい。\n";
         return exit_usage;
     }
-    std::optional<InputKind> kind;
-    if (!given.kind.empty()) {
-        kind = given.kind == "all" ? InputKind::all : InputKind::txt;
+    if (app.got_subcommand("z2a")) {
+        return z2a(options, given.log, output);
     }
-    return convert(options, {.log = given.log, .kind = kind, .contest = given.contest}, output);
+    const auto kind = kinds.find(given.kind);
+    return convert(options,
+                   {.log = given.log,
+                    .kind = kind == kinds.end() ? std::nullopt : std::optional(kind->second),
+                    .contest = given.contest},
+                   output);
 }
 
 }  // namespace veldrana

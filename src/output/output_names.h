@@ -20,6 +20,9 @@ struct OutputNames {
 
 OutputNames make_output_names(std::string_view in_name);
 
+// The text that a run makes of an RTCL log: _log2a.all, by the same rule.
+std::string log2a_name(std::string_view in_name);
+
 // The dupe list of a log: the path up to its first point, which may stand in a folder's name, and
 // "dup" behind it.
 std::string dup_name(std::string_view in_name);

@@ -40,7 +40,7 @@ class HamlogLibrary {
     // no field has. Valid until the next call of any operation.
     virtual std::string_view ThwString(int field) = 0;
     // May be called after a HamlogOpen that failed, and twice.
-    virtual void HamlogClose() = 0;
+    virtual void HamlogClose() noexcept = 0;
 };
 
 // The library that reads this station's log book: the log book's own where it is installed, else

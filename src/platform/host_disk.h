@@ -29,6 +29,8 @@ class HostDisk : public Disk {
     // A path of the host as the program writes it: the drive whose folder holds it, the nearest if
     // several do.
     std::string program_path(const HostPath& host) const;
+    // Where a file or folder of the program lies on the host; the failures of its opening.
+    HostPath host_path(std::string_view path) const { return require(path); }
 
     bool file_exists(std::string_view path) override;
     bool folder_exists(std::string_view path) override;

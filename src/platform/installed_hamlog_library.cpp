@@ -70,7 +70,7 @@ class InstalledHamlogLibrary : public HamlogLibrary {
         append_from_code_page(text_, until_nul({buffer_.data(), buffer_.size()}));
         return text_;
     }
-    void HamlogClose() override { HamlogClose_(log_.data(), 0); }
+    void HamlogClose() noexcept override { HamlogClose_(log_.data(), 0); }
 
   private:
     LoadedLibrary hamlog50_{L"Hamlog50.dll"};

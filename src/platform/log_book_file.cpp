@@ -414,7 +414,7 @@ std::string_view OwnHamlogLibrary::ThwString(int field) {
     return current_ && field >= 1 && field <= fields ? log_->field(field) : std::string_view();
 }
 
-void OwnHamlogLibrary::HamlogClose() {
+void OwnHamlogLibrary::HamlogClose() noexcept {
     current_ = false;
     log_.reset();
 }

@@ -52,7 +52,7 @@ class OwnHamlogLibrary : public HamlogLibrary {
     int HamlogOpen(std::string_view path) override;
     int THW_read(std::int32_t record, int way) override;
     std::string_view ThwString(int field) override;
-    void HamlogClose() override;
+    void HamlogClose() noexcept override;
 
   private:
     Disk& disk_;

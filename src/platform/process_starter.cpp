@@ -6,16 +6,14 @@
 #include "common/run_time_error.h"
 
 #ifdef _WIN32
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 #else
+#include <array>
+#include <cerrno>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <array>
-#include <cerrno>
 #endif
 
 namespace veldrana {

@@ -22,20 +22,45 @@ constexpr std::array<std::array<std::string_view, 3>, 2> sentinels{{
     {"ZZZZZYE2       ", "ZZZZZZ       ", "E2"},
 }};
 
-// The numbers of the fields that count.
-constexpr int call_field = 1;
-constexpr int date_field = 2;
-constexpr int frequency_field = 6;
-constexpr int mode_field = 7;
-constexpr int marks_field = 10;
+// What counts of a record: fields as they would stand in a quoted column.
+struct Record {
+    std::string call;
+    std::string date;
+    std::string frequency;
+    std::string mode;
+    std::string marks;  // transfer, card sent, card received
+};
 
-// A field as it would stand in a quoted column.
-std::string_view with_doubled_quotes(std::string_view field, std::string& memory) {
-    if (field.find('"') == std::string_view::npos) {
-        return field;
+// Where a field is kept; null for those that are fetched with the others and count for nothing.
+std::string* place_of(Record& record, int field) {
+    switch (field) {
+        case 1:
+            return &record.call;
+        case 2:
+            return &record.date;
+        case 6:
+            return &record.frequency;
+        case 7:
+            return &record.mode;
+        case 10:
+            return &record.marks;
+        default:
+            return nullptr;
     }
-    memory = replace_all(field, "\"", "\"\"");
-    return memory;
+}
+
+void fetch(HamlogLibrary& library, Record& record) {
+    for (int field = 1; field <= HamlogLibrary::fields; ++field) {
+        const std::string_view text = library.ThwString(field);
+        std::string* const place = place_of(record, field);
+        if (place == nullptr) {
+            continue;
+        }
+        place->assign(text);
+        if (text.find('"') != std::string_view::npos) {
+            *place = replace_all(*place, "\"", "\"\"");
+        }
+    }
 }
 
 // The whole number that a text begins with; too large a one is as large as a number can be.
@@ -143,6 +168,7 @@ class LogBookReading {
         for (std::int32_t record = 1; record <= count; ++record) {
             trace_more("     ", std::to_string(record));
             library_.THW_read(record, HamlogLibrary::by_number);
+            fetch(library_, record_);
             if (in_period() && selects()) {
                 write_record(output, line);
             }
@@ -160,12 +186,8 @@ class LogBookReading {
         }
     }
 
-    std::string_view field(int number) {
-        return with_doubled_quotes(library_.ThwString(number), quoted_);
-    }
-
     bool in_period() {
-        const std::uint64_t day = date_number(field(date_field), date_);
+        const std::uint64_t day = date_number(record_.date, date_);
         return day >= first_day_ && day <= last_day_;
     }
 
@@ -174,16 +196,14 @@ class LogBookReading {
             return true;
         }
         // The second of the three marks is that of a card sent, the third of one received.
-        return !trim(mid(field(marks_field), static_cast<Count>(kind_), 1)).empty();
+        return !trim(mid(record_.marks, static_cast<Count>(kind_), 1)).empty();
     }
 
     void write_record(TextOutput& output, QuotedLine& line) {
         constexpr Count call_width = 13;
-        call_.assign(field(call_field));
-        call_.append(static_cast<std::size_t>(call_width), ' ');
-        const std::string_view call = left(call_, call_width);
-        mode_.assign(field(mode_field));
-        const BandMode band_mode = band_mode_of(field(frequency_field), mode_);
+        record_.call.append(static_cast<std::size_t>(call_width), ' ');
+        const std::string_view call = left(record_.call, call_width);
+        const BandMode band_mode = band_mode_of(record_.frequency, record_.mode);
         const std::array<char, 2> code{band_mode.letter, band_mode.digit};
         key_.assign(call).append(code.data(), code.size());
         const std::array<std::string_view, 3> columns{key_, call,
@@ -198,11 +218,8 @@ class LogBookReading {
     const LogBookRequest& request_;
     std::uint64_t first_day_ = 0;
     std::uint64_t last_day_ = 0;
-    // Texts of the record under way.
-    std::string quoted_;
+    Record record_;  // the one under way
     std::string date_;
-    std::string call_;
-    std::string mode_;
     std::string key_;
 };
 

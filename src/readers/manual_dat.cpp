@@ -68,6 +68,16 @@ bool choose_dat_by_hand(Person& person, std::string_view zlog_dat_dir,
     return true;
 }
 
+void take_listed_dat(const DatFolders& folders, std::string_view Dat_name, DatFile& dat) {
+    const bool is_dat = Dat_name.find(".dat") != std::string_view::npos;
+    dat.name = Dat_name;
+    dat.dat_in_name = is_dat ? folders.zlog_dat_dir : folders.mas_mst;
+    dat.dat_in_name += Dat_name;
+    DatFile of_path;
+    take_folder_and_name(dat.dat_in_name, of_path);
+    dat.folder = of_path.folder;
+}
+
 AllDat read_all_dat(const Stage& stage, const AllDatRequest& request, ContestSelection& selection,
                     ContestRefusals& refusals) {
     return enter_procedure(stage.trace, "Private Sub read_all_dat()", [&] {
@@ -83,14 +93,7 @@ AllDat read_all_dat(const Stage& stage, const AllDatRequest& request, ContestSel
             if (request.Op04_Chk) {
                 request.Op04_Chk();
             }
-            DatFile& dat = selection.dat;
-            const bool is_dat = Dat_name.find(".dat") != std::string::npos;
-            dat.name = Dat_name;
-            dat.dat_in_name = (is_dat ? request.folders.zlog_dat_dir : request.folders.mas_mst);
-            dat.dat_in_name += Dat_name;
-            DatFile of_path;
-            take_folder_and_name(dat.dat_in_name, of_path);
-            dat.folder = of_path.folder;
+            take_listed_dat(request.folders, Dat_name, selection.dat);
         }
         return AllDat::found;
     });

@@ -17,6 +17,10 @@ namespace veldrana {
 // this order. False if none was chosen; nothing has changed then.
 bool choose_dat_by_hand(Person& person, std::string_view zlog_dat_dir, ContestSelection& selection);
 
+// Takes a data file by its name in the contest list: from the folder of the logger's files if the
+// name holds ".dat", else from that of the program's.
+void take_listed_dat(const DatFolders& folders, std::string_view Dat_name, DatFile& dat);
+
 struct AllDatRequest {
     std::string_view contest_name_csv;
     const DatFolders& folders;

@@ -154,6 +154,7 @@ const Contact& RowBuilder::build(const RowReader& coded) {
 void RowBuilder::compose_remarks(const RowReader& coded) {
     texts_.memo = coded[coded_line::memo];
     texts_.op = coded[coded_line::op];
+    texts_.contest = request_.contest_name;
     texts_.number_received = coded[coded_line::number_received];
     texts_.rmks1 = options_.txtRmks1;
     texts_.rmks2 = options_.txtRmks2;

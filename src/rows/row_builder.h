@@ -29,7 +29,8 @@ struct RowRequest {
     const RemarkLayout& layout_2;
     const RemarkLengths& lengths;
     StationSources sources;
-    PastContacts* past = nullptr;  // null: no contact of the past counts
+    std::string_view contest_name = {};  // for the remark item; empty: none
+    PastContacts* past = nullptr;        // null: no contact of the past counts
 };
 
 // Reads zlog_2.txt, which must hold a contact (else failure 62), and writes Sort-in.dat and the two

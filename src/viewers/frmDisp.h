@@ -1,4 +1,5 @@
-// Owns the text viewer as a form: the lines of one file, to be looked at.
+// Owns the text viewers as forms: the lines of one file, to be looked at. frmDisp is shown until it
+// is closed, the free viewers stand beside the program's windows.
 #pragma once
 
 #include <string>
@@ -31,6 +32,17 @@ class frmDisp : public WindowForm {
     std::string strPath_;
     std::string disp_name_;
     ViewedText text_;
+};
+
+// frmDisp2, frmDisp3 and frmDisp4.
+class FreeViewer : public frmDisp {
+  public:
+    FreeViewer(Disk& disk, std::string strPath, std::string name)
+        : frmDisp(disk, std::move(strPath), std::move(name)) {
+        cmdOK.Click = [this] { mnuOK_Click(); };
+    }
+
+    CommandButton cmdOK{*this, "cmdOK", "ＯＫ"};
 };
 
 }  // namespace veldrana

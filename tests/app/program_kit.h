@@ -14,6 +14,7 @@
 #include "tests/doubles/fixed_clock.h"
 #include "tests/doubles/memory_disk.h"
 #include "tests/doubles/scripted_person.h"
+#include "tests/doubles/scripted_processes.h"
 
 namespace veldrana {
 
@@ -47,8 +48,8 @@ struct ProgramKit {
     explicit ProgramKit(std::string_view program_folder = "C:\\veldrana",
                         Installed installed = Installed::ready) {
         memory.put_folder(program_folder);
-        program.emplace(Ports{disk, clock, person, sorter, services, log_book}, program_folder,
-                        "C:\\WINDOWS");
+        program.emplace(Ports{disk, clock, person, sorter, services, log_book, processes},
+                        program_folder, "C:\\WINDOWS");
         if (installed == Installed::ready) {
             SettingsStore options(memory, clock, program->paths.strPath);
             options.set_default_options();
@@ -104,6 +105,7 @@ struct ProgramKit {
     StableSort sorter{disk};
     ScriptedServices services;
     OwnHamlogLibrary log_book{disk};
+    ScriptedProcesses processes;
     std::optional<Program> program;
 };
 

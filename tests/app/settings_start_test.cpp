@@ -57,9 +57,9 @@ class SettingsStart : public testing::Test {
     // A new program on the same disk, one minute later.
     Start::Reached start_again() {
         ++kit.clock.time.minute;
-        kit.program.emplace(
-            Ports{kit.disk, kit.clock, kit.person, kit.sorter, kit.services, kit.log_book},
-            "C:\\veldrana", "C:\\WINDOWS");
+        kit.program.emplace(Ports{kit.disk, kit.clock, kit.person, kit.sorter, kit.services,
+                                  kit.log_book, kit.processes},
+                            "C:\\veldrana", "C:\\WINDOWS");
         return start();
     }
     OptionSettings& options() { return kit.program->settings.options; }

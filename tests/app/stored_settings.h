@@ -73,7 +73,8 @@ inline void set_user_text_b(ProgramKit& kit) {
 // The program once more on the disk of the kit.
 struct NextStart {
     explicit NextStart(ProgramKit& kit)
-        : program(Ports{kit.disk, kit.clock, kit.person, kit.sorter, kit.services, kit.log_book},
+        : program(Ports{kit.disk, kit.clock, kit.person, kit.sorter, kit.services, kit.log_book,
+                        kit.processes},
                   kit.program->paths.strPath, "C:\\WINDOWS") {
         program.event([this] { Main(program); });
     }

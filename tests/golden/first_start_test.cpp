@@ -70,7 +70,7 @@ class GoldenFirstStart : public testing::Test {
   protected:
     GoldenFirstStart() {
         fs::create_directories(home_);
-        Program program(Ports{disk_, clock_, person_, sorter_, services_, log_book_},
+        Program program(Ports{disk_, clock_, person_, sorter_, services_, log_book_, processes_},
                         "C:\\veldrana", "C:\\WINDOWS");
         program.event([&] { Main(program); });
         reached_ = program.start.reached;
@@ -85,6 +85,7 @@ class GoldenFirstStart : public testing::Test {
     StableSort sorter_{disk_};
     ScriptedServices services_;
     OwnHamlogLibrary log_book_{disk_};
+    ScriptedProcesses processes_;
     Start::Reached reached_ = Start::nothing;
 };
 

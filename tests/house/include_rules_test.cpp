@@ -59,9 +59,9 @@ const std::set<std::string> standard_headers{"algorithm",     "any",
                                              "unordered_map", "unordered_set",
                                              "utility",       "variant",
                                              "vector"};
-const std::set<std::string> platform_headers{"iconv.h",   "windows.h",      "fcntl.h",
-                                             "unistd.h",  "sys/stat.h",     "curl/curl.h",
-                                             "archive.h", "archive_entry.h"};
+const std::set<std::string> platform_headers{
+    "iconv.h",   "windows.h",       "fcntl.h",    "unistd.h", "sys/stat.h", "curl/curl.h",
+    "archive.h", "archive_entry.h", "shellapi.h", "spawn.h",  "sys/wait.h"};
 
 struct Include {
     std::string name;
