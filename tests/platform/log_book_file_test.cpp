@@ -482,6 +482,11 @@ TEST_F(LogBookFileTest, TextOfNineColumnsIsNoLogBook) {
     EXPECT_TRUE(is_refused("This is a letter.\r\n"));
 }
 
+TEST_F(LogBookFileTest, BlankLinesAloneHoldNoRecord) {
+    EXPECT_EQ(read("\r\n").count, 0);
+    EXPECT_EQ(read("   \r\n\r\n").count, 0);
+}
+
 TEST_F(LogBookFileTest, TextWithANulInItsFirstLineIsNoLogBook) {
     EXPECT_TRUE(is_refused("\"JA1\0ZZA\",2,3,4,5,6,7,8,9,10,11\r\n"s));
     EXPECT_TRUE(is_refused("\r\n1,2,3,4,5,6,7,8,9,10,11\0\r\n"s));
