@@ -25,6 +25,7 @@ struct GoldenCase {
     std::string purpose;
     std::vector<std::string> settings;
     std::string log;
+    std::string kind;     // of the log; empty: as its name and content say
     std::string contest;  // to be picked in the contest dialog; empty: none
     int status = 0;
 };
@@ -45,6 +46,8 @@ GoldenCase read_case(const fs::path& folder) {
             read.settings.push_back(value);
         } else if (key == "log") {
             read.log = value;
+        } else if (key == "kind") {
+            read.kind = value;
         } else if (key == "contest") {
             read.contest = value;
         } else if (key == "status") {
@@ -132,6 +135,9 @@ TEST_P(Golden, EndsAsExpected) {
         arguments.insert(arguments.end(), {"--set", setting});
     }
     arguments.insert(arguments.end(), {"convert", (drive / golden.log).string()});
+    if (!golden.kind.empty()) {
+        arguments.insert(arguments.end(), {"--kind", golden.kind});
+    }
     if (!golden.contest.empty()) {
         arguments.insert(arguments.end(), {"--contest", golden.contest});
     }

@@ -24,9 +24,17 @@ NO_QSL = "N"
 
 
 def build_rows(
-    files: Drive, names: Names, options: Options, calls: CallRules, sources: Sources
+    files: Drive,
+    names: Names,
+    options: Options,
+    calls: CallRules,
+    sources: Sources,
+    contest_name: str,
 ) -> int:
-    """Gives the number of contacts that the club rule marked."""
+    """Gives the number of contacts that the club rule marked.
+
+    Only a binary log of zLog has a `contest_name`; of the other kinds it is empty.
+    """
     contacts = FieldReader(files, names.coded_lines)
     for_sort = LineWriter(files, at.SORT_IN)
     for_contest = LineWriter(files, at.ROWS_FOR_CONTEST)
@@ -41,7 +49,7 @@ def build_rows(
         date, time = zoned_time(date, time, call, options, calls)
         received = trim(received[:3])
 
-        composer = RemarkComposer(memo, operator, number, options)
+        composer = RemarkComposer(memo, operator, number, contest_name, options)
         remark_1 = composer.compose(1)
         remark_2 = composer.compose(2)
 

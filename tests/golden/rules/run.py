@@ -3,7 +3,20 @@
 from dataclasses import dataclass
 from pathlib import Path
 
-from . import code_stage, dupe_list, last_pass, marks, rows, split_merge, text_logs
+from . import (
+    adif,
+    cabrillo,
+    code_stage,
+    dupe_list,
+    kinds,
+    last_pass,
+    marks,
+    rows,
+    rtcl,
+    split_merge,
+    text_logs,
+    zlo,
+)
 from .calls import CallRules
 from .case import Case
 from .contest_data import Contest, choose_contest
@@ -40,16 +53,26 @@ def run(case: Case) -> Outcome:
     names = Names(case.log)
     environment = read_environment(files)
     options = Options(case.settings, read_stored_options(files, station[OPTION_FILE], STORED))
+    raw = files[case.log]
+    kind = case.kind or kinds.kind_of(case.log, raw)
+    contest_name = ""
     contest = None
+    if kind == "zlo" and options.choice("Option02") == CONTEST_DATA:
+        header = zlo.read_header(files, environment, raw)
+        contest_name, contest = header.contest_name, header.contest
     if case.contest:
         if options.choice("Option02") != CONTEST_DATA:
             raise ValueError("a contest can be chosen only with Option02=2")
+        if kind == "zlo":
+            raise ValueError("a .zlo finds its contest by itself")
         contest = choose_contest(files, environment, case.contest)
 
     counters = ""
-    if is_ready(files, case, options, contest):
+    if is_ready(files, kind, case.log, options, contest):
         try:
-            counters = convert(files, case.log, names, options, environment, contest)
+            counters = convert(
+                files, kind, case.log, names, options, environment, contest, contest_name
+            )
             status = DONE
         except RunTimeFailure:
             status = FAILED
@@ -59,9 +82,11 @@ def run(case: Case) -> Outcome:
     return Outcome(status, left, counters)
 
 
-def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None) -> bool:
+def is_ready(
+    files: Drive, kind: str, log: str, options: Options, contest: Contest | None
+) -> bool:
     """Whether the start button is on and does something."""
-    if not text_logs.accepts(case.log, files[case.log]):
+    if not kinds.accepts(kind, log, files[log]):
         return False
     if options.choice("Option02") == CONTEST_DATA and contest is None:
         return False
@@ -70,16 +95,18 @@ def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None
 
 def convert(
     files: Drive,
+    kind: str,
     log: str,
     names: Names,
     options: Options,
     environment: Environment,
     contest: Contest | None,
+    contest_name: str,
 ) -> str:
     sources = Sources(files, options, environment)
-    text_logs.read_text_log(log, files[log], options, LineWriter(files, names.log_lines))
+    read_log(files, kind, log, names, options)
     code_stage.write_coded_lines(files, names, options, environment, contest)
-    no_qsl = rows.build_rows(files, names, options, CallRules(), sources)
+    no_qsl = rows.build_rows(files, names, options, CallRules(), sources, contest_name)
     lines, multiples, singles = split_merge.write_contest_rows(files, names, options)
     if options.is_on("Check06"):
         dupe_list.write_dupe_list(files, names)
@@ -90,5 +117,21 @@ def convert(
     last_pass.write_result(files, names.hamlog_rows, names.hamlog_result, options)
     named = last_pass.write_result(files, names.contest_rows, names.contest_result, options)
     files.delete(names.hamlog_rows, names.contest_rows, names.hamlog_split, names.contest_split)
-    files.delete(names.reversed_rows)
+    files.delete(names.reversed_rows, names.rtcl_text)
     return counter_lines(lines, multiples, singles, no_qsl, named, sources.text_hits)
+
+
+def read_log(files: Drive, kind: str, log: str, names: Names, options: Options) -> None:
+    raw = files[log]
+    if kind in rtcl.LAYOUTS:
+        rtcl.read_rtcl(files, kind, raw, names, options)
+        return
+    out = LineWriter(files, names.log_lines)
+    if kind == "zlo":
+        zlo.read_zlo(raw, options, out)
+    elif kind == "cbr":
+        cabrillo.read_cabrillo(raw, options, out)
+    elif kind == "ADIF":
+        adif.read_adif(raw, options, out)
+    else:
+        text_logs.read_text_log(log, raw, options, out)
