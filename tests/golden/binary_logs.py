@@ -1,7 +1,7 @@
 """Writers of the binary logs: zLog's .ZLO and both forms of RTCL's .LOG.
 
-They lay out bytes and know no rule of the program. A text is str, or bytes where it holds what is no
-character.
+They lay out bytes and know no rule of the program. A text is str, or bytes where it holds what is
+no character.
 """
 
 import struct

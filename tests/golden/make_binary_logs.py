@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the binary logs of the cases anew, always the same to the byte. All call signs are invented.
+"""Writes the binary logs of the cases anew, always the same to the byte. All calls are invented.
 
 Each function is a log: its name is the case's, with "_" for "-".
 """
@@ -118,11 +118,13 @@ def zlo_frequency_not_asked() -> bytes:
 @log("log/x.zlo")
 def zlo_lengths() -> bytes:
     return zlo_log("", [
-        ZloContact(at(9, 0), "JA1ZZA", received_number="123456789ABC", operator="JA1ZZZ", memo="A"),
-        ZloContact(at(9, 1), "JA1ZZBXX", received_number="1234", operator="JA1ZZZ", memo="KEPT GONE",
+        ZloContact(at(9, 0), "JA1ZZA", received_number="123456789ABC", operator="JA1ZZZ",
+                   memo="A"),
+        ZloContact(at(9, 1), "JA1ZZBXX", received_number="1234", operator="JA1ZZZ",
+                   memo="KEPT GONE",
                    lengths={"call": 6, "received_number": 2, "operator": 3, "memo": 4}),
-        ZloContact(at(9, 2), "JA1ZZCXXXXXX", received_number="1234567890", operator="ABCDEFGHIJKLMN",
-                   memo="M" * 67,
+        ZloContact(at(9, 2), "JA1ZZCXXXXXX", received_number="1234567890",
+                   operator="ABCDEFGHIJKLMN", memo="M" * 67,
                    lengths={"call": 200, "received_number": 255, "operator": 15, "memo": 68}),
         ZloContact(at(9, 3), "JA1ZZD", received_number="25", operator="JA1ZZZ", memo="GONE",
                    lengths={"received_number": 0, "operator": 0, "memo": 0}),
@@ -137,7 +139,8 @@ def zlo_double_byte_texts() -> bytes:
     return zlo_log("", [
         ZloContact(at(9, 0), "JA1ZZA", received_number="13ソ", operator="ソ表示", memo="能登 表彰局"),
         ZloContact(at(9, 1), "JA1ZZB", received_number="ﾀﾛｳ", operator="ﾀﾛｳ", memo="ﾓｰﾋﾞﾙ (7012)"),
-        ZloContact(at(9, 2), "JA1ZZC", received_number="13", operator=b"\x81", memo=b"A\x80\xfd\xff"),
+        ZloContact(at(9, 2), "JA1ZZC", received_number="13", operator=b"\x81",
+                   memo=b"A\x80\xfd\xff"),
         ZloContact(at(9, 3), "JA1ZZD", received_number="13", operator="１２３", memo="ｱ（7012）"),
     ])  # fmt: skip
 
@@ -431,8 +434,9 @@ def rtcl_column_edges() -> bytes:
                     received="  599", received_number="  13 H", operator=" OP", comment="  tail "),
         RtclContact(at(9, 3), "JA1ZZD", "7", rtcl_counter(7_010_000), sent="", received="",
                     sent_number="", received_number="表表表表", comment="表" * 10),
-        RtclContact(at(9, 4), b"JA1\x80ZE", "7", rtcl_counter(7_010_000), received_number=b"13\xfd\xff",
-                    operator=b"A\xa0B", comment=b"\x81\x20x\xfc"),
+        RtclContact(at(9, 4), b"JA1\x80ZE", "7", rtcl_counter(7_010_000),
+                    received_number=b"13\xfd\xff", operator=b"A\xa0B",
+                    comment=b"\x81\x20x\xfc"),
     ])  # fmt: skip
 
 

@@ -1,4 +1,4 @@
-"""The reader of zLog's binary logs: the contest from the first record, the contacts from the others.
+"""The reader of zLog's binary logs: the contest from the first record, the contacts behind it.
 
 Records have 256 bytes; what is left at the end of the file is no record. A text is a byte with its
 length and a space of fixed size behind it.
