@@ -145,6 +145,11 @@ def zlo_double_byte_texts() -> bytes:
     ])  # fmt: skip
 
 
+@log("log/X.ZLO")
+def zlo_capital_extension() -> bytes:
+    return zlo_memos(["(7012)", ""])
+
+
 def zlo_operators() -> bytes:
     return zlo_log("", [
         ZloContact(at(9, 0), "JA1ZZA", received_number="13H", operator="JA1ZZZ", memo="one"),
@@ -456,6 +461,16 @@ def rtcl_times() -> bytes:
 @log("log/x.log.log")
 def rtcl_name_with_extension_twice() -> bytes:
     return rtcl_log(RTCL_V4, rtcl_whole())
+
+
+@log("log/X.LOG")
+def rtcl_capital_extension() -> bytes:
+    return rtcl_log(RTCL_V430, rtcl_whole())
+
+
+@log("log/x.log")
+def rtcl_old_files_made_anew() -> bytes:
+    return rtcl_log(RTCL_V430, rtcl_whole())
 
 
 @log("log/x.log")

@@ -90,6 +90,7 @@ class Record:
 def parse(text: str, options: Options) -> Record:
     """Every piece is held against every tag, so one piece can fill several fields."""
     record = Record()
+    # It gives no field: no tag is looked for that has a blank in its name.
     text = text.replace("<qso date:8:d>", "<QSO DATE:8>")
     for piece in text.split("<"):
         tags = upper(piece)
