@@ -128,7 +128,7 @@ std::string_view mode_of(std::string_view token) noexcept {
     if (token == "PH") {
         return "SSB";
     }
-    return token == "RY" ? "RTTY" : token;
+    return token == "RY" ? "RTY" : token;
 }
 
 // Failure 9 for a date of fewer than three parts.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 
 #include "common/procedure.h"
 #include "common/quoted_fields.h"
@@ -127,10 +128,41 @@ void write_txt_line(const RowReader& row, std::string_view mode_text, std::strin
     append_memo(row, line);
 }
 
+// The same lines to several files. Two paths may lead to one file, which is written once.
+class Outputs {
+  public:
+    Outputs(const Stage& stage, const std::vector<std::string>& paths) {
+        for (auto path = paths.begin(); path != paths.end(); ++path) {
+            const bool opened = std::any_of(paths.begin(), path, [&](const std::string& other) {
+                return other == *path || stage.disk.same_file(other, *path);
+            });
+            if (!opened) {
+                stage.trace.write_open_for_output(*path);
+                files_.emplace_back(stage.disk, *path);
+            }
+        }
+    }
+
+    void write_line(std::string_view line) {
+        for (TextOutput& file : files_) {
+            file.write_line(line);
+        }
+    }
+
+    void close() {
+        for (TextOutput& file : files_) {
+            file.close();
+        }
+    }
+
+  private:
+    std::deque<TextOutput> files_;
+};
+
 void convert(const Stage& stage, std::string_view rtcl_tmp, std::string_view heading, TextForm form,
-             std::string_view path) {
+             const std::vector<std::string>& paths) {
     TextInput input = stage.open_input(rtcl_tmp);
-    TextOutput output = stage.open_output(path);
+    Outputs output(stage, paths);
     output.write_line(heading);
     RowReader row(input, rtcl_line::count);
     ModeOfLine modes(form);
@@ -152,17 +184,8 @@ void convert(const Stage& stage, std::string_view rtcl_tmp, std::string_view hea
 
 void make_rtcl_log_to_zlog_all(const Stage& stage, std::string_view rtcl_tmp,
                                std::string_view heading, const std::vector<std::string>& outputs) {
-    enter_procedure(stage.trace, "Private Sub make_rtcl_log_to_zlog_all()", [&] {
-        const std::string& first = outputs.front();
-        convert(stage, rtcl_tmp, heading, TextForm::all, first);
-        for (const std::string& output : outputs) {
-            // The folders of a run may be one folder.
-            if (!stage.disk.same_file(first, output)) {
-                stage.trace.write_open_for_output(output);
-                copy_file(stage.disk, first, output);
-            }
-        }
-    });
+    enter_procedure(stage.trace, "Private Sub make_rtcl_log_to_zlog_all()",
+                    [&] { convert(stage, rtcl_tmp, heading, TextForm::all, outputs); });
 }
 
 void make_rtcl_log_to_zlog_txt(const Stage& stage, std::string_view rtcl_tmp,
@@ -170,7 +193,7 @@ void make_rtcl_log_to_zlog_txt(const Stage& stage, std::string_view rtcl_tmp,
     enter_procedure(stage.trace, "Private Sub make_rtcl_log_to_zlog_txt()", [&] {
         convert(stage, rtcl_tmp,
                 "mon day time  callsign      sent         rcvd      multi   MHz mode pts memo",
-                TextForm::txt, output);
+                TextForm::txt, {std::string(output)});
     });
 }
 

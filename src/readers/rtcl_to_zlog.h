@@ -20,8 +20,7 @@ constexpr std::string_view rtcl_heading_of_tool =
     "zLog for Windows   (rtcl.log to zlog.all)    by Veldrana 5.30";
 
 // Writes the .ALL of an unpacked log to each of the outputs, of which several may be the same file.
-// The first one is written line by line, the others are copies of it. Failure 62 for a row that
-// lacks fields.
+// Failure 62 for a row that lacks fields; the lines in front of it stand in all of them then.
 void make_rtcl_log_to_zlog_all(const Stage& stage, std::string_view rtcl_tmp,
                                std::string_view heading, const std::vector<std::string>& outputs);
 

@@ -58,7 +58,7 @@ class ScriptedHamlogLibrary : public HamlogLibrary {
         field_ = current_.at(static_cast<std::size_t>(field - 1));
         return field_;
     }
-    void HamlogClose() override { note("HamlogClose"); }
+    void HamlogClose() noexcept override { note("HamlogClose"); }
 
   private:
     void note(const std::string& call) {

@@ -30,8 +30,8 @@ struct GoldenCase {
     std::string purpose;
     std::vector<std::string> settings;
     std::string log;
+    std::string kind;     // of the log; empty: as its name and content say
     std::string contest;  // to be picked in the contest dialog; empty: none
-    std::string kind;     // of the log; empty: as its name and content tell
     // When files were last written: path, local time.
     std::vector<std::pair<std::string, std::string>> times;
     int status = 0;
@@ -53,10 +53,10 @@ GoldenCase read_case(const fs::path& folder) {
             read.settings.push_back(value);
         } else if (key == "log") {
             read.log = value;
-        } else if (key == "contest") {
-            read.contest = value;
         } else if (key == "kind") {
             read.kind = value;
+        } else if (key == "contest") {
+            read.contest = value;
         } else if (key == "time") {
             const std::size_t date = value.size() - std::string("yyyy-mm-dd hh:mm:ss").size();
             read.times.emplace_back(value.substr(0, date - 1), value.substr(date));

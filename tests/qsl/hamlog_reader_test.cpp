@@ -129,7 +129,7 @@ TEST_F(HamlogReader, OperationsOfTheLibraryInTheirOrder) {
 
 // The reader asks for the fields that it looks at alone; all fourteen are to be fetched of each
 // record, in their order, one that is not selected too.
-TEST_F(HamlogReader, DISABLED_EveryFieldIsFetchedInOrderWhateverIsSelected) {
+TEST_F(HamlogReader, EveryFieldIsFetchedInOrderWhateverIsSelected) {
     Lines expected;
     for (int field = 1; field <= 14; ++field) {
         expected.push_back("ThwString " + std::to_string(field));
@@ -606,17 +606,6 @@ TEST_F(HamlogReader, OperationThatFailsLeavesTheLogBookClosedAndAnErrorLine) {
                 << operation;
         }
     }
-}
-
-// The closing stands in a destructor: a library that fails there ends the process.
-TEST_F(HamlogReader, DISABLED_ClosingThatFailsIsAFailureToo) {
-    library.on_call = [](const std::string& call) {
-        if (call == "HamlogClose") {
-            throw RunTimeError(Failure::device_error);
-        }
-    };
-    EXPECT_EQ(failure_of([&] { read(); }), 57);
-    EXPECT_THAT(error_lines(), ElementsAre("エラー発生  Private Sub read_hl_hdb_1() ：　57"));
 }
 
 TEST_F(HamlogReader, MissingDatabaseIsAFailureOfTheReader) {

@@ -166,7 +166,7 @@ TEST_F(Cabrillo, TokensBehindTheEleventhAreIgnored) {
 
 TEST_F(Cabrillo, PhoneAndTeletypeHaveTheirLongNames) {
     EXPECT_EQ(read_one(contact_at("7012", "PH"))[8], "SSB");
-    EXPECT_EQ(read_one(contact_at("7012", "RY"))[8], "RTTY");
+    EXPECT_EQ(read_one(contact_at("7012", "RY"))[8], "RTY");
 }
 
 TEST_F(Cabrillo, OtherModesStand) {

@@ -4,12 +4,15 @@ from dataclasses import dataclass, field
 from datetime import datetime
 from pathlib import Path
 
+from .kinds import KINDS
+
 
 @dataclass
 class Case:
     folder: Path
     purpose: str = ""
     log: str = ""
+    kind: str = ""  # of the log; empty: by its extension and content
     contest: str = ""
     status: int = 0
     settings: list[tuple[str, str]] = field(default_factory=list)
@@ -48,6 +51,8 @@ def load_case(folder: Path) -> Case:
             case.settings.append((name, setting))
         elif key == "log":
             case.log = value
+        elif key == "kind" and value in KINDS:
+            case.kind = value
         elif key == "contest":
             case.contest = value
         elif key == "status":

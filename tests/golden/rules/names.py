@@ -28,6 +28,9 @@ DUPES_SORTED = "zlog_4.txt"
 WORKED = "bak_1.txt"
 WORKED_SORTED = "bak_2.txt"
 WORKED_ONCE = "bak_3.txt"
+RTCL_IN_ROOT = "zlog_01.txt"
+
+RTCL_UNPACKED = "veldrana/rtcl_tmp.txt"
 
 
 def history(index: int) -> str:
@@ -49,7 +52,13 @@ class Names:
         self.hamlog_result = renamed(log, "_hjn.csv")
         self.contest_split = renamed(log, "_cj.csv")
         self.hamlog_split = renamed(log, "_hj.csv")
-        self.dupe_list = log[: log.index(".") + 1] + "dup"
+        self.rtcl_text = self.folder + "zlog_01.txt"
+        self.rtcl_beside = renamed(log, "_log2a.all")
+        self.use_as_input(log)
+
+    def use_as_input(self, path: str) -> None:
+        """The dupe list alone is named after the text that a log was rewritten to."""
+        self.dupe_list = path[: path.index(".") + 1] + "dup"
 
 
 def renamed(log: str, suffix: str) -> str:

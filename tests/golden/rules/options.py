@@ -55,6 +55,8 @@ FIELDS = {
     "txtRmks1": "",
     "txtRmks2": "",
     "txtYYYY": None,  # the present year: a case whose result holds it has to set it
+    "Check27": "0",  # ADIF: no letters of power in the received number
+    "Check28": "0",  # ADIF: the received number from APP_N1MM_EXCHANGE1
     **{slot: "" for slot in REMARK_SLOTS},
     "lblRmks1(0)": "ｺﾝﾃｽﾄ",
     "lblRmks2(0)": "Rmks2",

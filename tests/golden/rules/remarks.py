@@ -9,10 +9,13 @@ MEMO_MARK = "memo="
 class RemarkComposer:
     """Composes the remarks of one contact; the memo changes on the way."""
 
-    def __init__(self, memo: str, operator: str, number: str, options: Options):
+    def __init__(
+        self, memo: str, operator: str, number: str, contest_name: str, options: Options
+    ):
         self._memo = memo
         self._operator = operator
         self._number = number
+        self._contest_name = contest_name
         self._options = options
 
     def compose(self, remark: int) -> str:
@@ -36,7 +39,7 @@ class RemarkComposer:
         if item == "OP %":
             return f"%{self._operator}%" if trim(self._operator) != "" else ""
         if item == "ｺﾝﾃｽﾄ":
-            return ""  # no text log has a contest name
+            return self._contest_name
         if item == "Rcvd":
             return self._number
         if item in ("Rmks1", "Rmks2"):

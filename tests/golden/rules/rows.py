@@ -25,9 +25,17 @@ NO_QSL = "N"
 
 
 def build_rows(
-    files: Drive, names: Names, options: Options, calls: CallRules, sources: Sources
+    files: Drive,
+    names: Names,
+    options: Options,
+    calls: CallRules,
+    sources: Sources,
+    contest_name: str,
 ) -> int:
-    """Gives how often the history or the club rule marked a contact; it may be both."""
+    """Gives how often the history or the club rule marked a contact; it may be both.
+
+    Only a binary log of zLog has a `contest_name`; of the other kinds it is empty.
+    """
     contacts = FieldReader(files, names.coded_lines)
     for_sort = LineWriter(files, at.SORT_IN)
     for_contest = LineWriter(files, at.ROWS_FOR_CONTEST)
@@ -44,7 +52,7 @@ def build_rows(
         date, time = zoned_time(date, time, call, options, calls)
         received = trim(received[:3])
 
-        composer = RemarkComposer(memo, operator, number, options)
+        composer = RemarkComposer(memo, operator, number, contest_name, options)
         remark_1 = composer.compose(1)
         remark_2 = composer.compose(2)
 

@@ -3,7 +3,21 @@
 from dataclasses import dataclass
 from pathlib import Path
 
-from . import code_stage, dupe_list, history, last_pass, marks, rows, split_merge, text_logs
+from . import (
+    adif,
+    cabrillo,
+    code_stage,
+    dupe_list,
+    history,
+    kinds,
+    last_pass,
+    marks,
+    rows,
+    rtcl,
+    split_merge,
+    text_logs,
+    zlo,
+)
 from .calls import CallRules
 from .case import Case
 from .contest_data import Contest, choose_contest
@@ -40,19 +54,29 @@ def run(case: Case) -> Outcome:
     names = Names(case.log)
     environment = read_environment(files)
     options = Options(case.settings, read_stored_options(files, station[OPTION_FILE], STORED))
+    raw = files[case.log]
+    kind = case.kind or kinds.kind_of(case.log, raw)
+    contest_name = ""
     contest = None
+    if kind == "zlo" and options.choice("Option02") == CONTEST_DATA:
+        header = zlo.read_header(files, environment, raw)
+        contest_name, contest = header.contest_name, header.contest
     if case.contest:
         if options.choice("Option02") != CONTEST_DATA:
             raise ValueError("a contest can be chosen only with Option02=2")
+        if kind == "zlo":
+            raise ValueError("a .zlo finds its contest by itself")
         contest = choose_contest(files, environment, case.contest)
 
     counters = ""
     status = REFUSED
-    if is_ready(files, case, options, contest):
+    if is_ready(files, kind, case.log, options, contest):
         delete_old_index(files)
         if not options.lacks_choice_of_text:
             try:
-                counters = convert(files, case.log, names, options, environment, contest)
+                counters = convert(
+                    files, kind, case.log, names, options, environment, contest, contest_name
+                )
                 status = DONE
             except ProgramEnd:
                 status = FAILED
@@ -61,9 +85,11 @@ def run(case: Case) -> Outcome:
     return Outcome(status, left, counters)
 
 
-def is_ready(files: Drive, case: Case, options: Options, contest: Contest | None) -> bool:
+def is_ready(
+    files: Drive, kind: str, log: str, options: Options, contest: Contest | None
+) -> bool:
     """Whether the start button is on."""
-    if not text_logs.accepts(case.log, files[case.log]):
+    if not kinds.accepts(kind, log, files[log]):
         return False
     return options.choice("Option02") != CONTEST_DATA or contest is not None
 
@@ -76,17 +102,19 @@ def delete_old_index(files: Drive) -> None:
 
 def convert(
     files: Drive,
+    kind: str,
     log: str,
     names: Names,
     options: Options,
     environment: Environment,
     contest: Contest | None,
+    contest_name: str,
 ) -> str:
     sources = Sources(files, options, environment)
     history.refresh(files, options, environment)
-    text_logs.read_text_log(log, files[log], options, LineWriter(files, names.log_lines))
+    read_log(files, kind, log, names, options)
     code_stage.write_coded_lines(files, names, options, environment, contest)
-    no_qsl = rows.build_rows(files, names, options, CallRules(), sources)
+    no_qsl = rows.build_rows(files, names, options, CallRules(), sources, contest_name)
     lines, multiples, singles = split_merge.write_contest_rows(files, names, options)
     if options.is_on("Check06"):
         dupe_list.write_dupe_list(files, names)
@@ -102,5 +130,21 @@ def convert(
         files, names.contest_rows, names.contest_result, options, letter
     )
     files.delete(names.hamlog_rows, names.contest_rows, names.hamlog_split, names.contest_split)
-    files.delete(names.reversed_rows)
+    files.delete(names.reversed_rows, names.rtcl_text)
     return counter_lines(lines, multiples, singles, no_qsl, named, sources.text_hits)
+
+
+def read_log(files: Drive, kind: str, log: str, names: Names, options: Options) -> None:
+    raw = files[log]
+    if kind in rtcl.LAYOUTS:
+        rtcl.read_rtcl(files, kind, raw, names, options)
+        return
+    out = LineWriter(files, names.log_lines)
+    if kind == "zlo":
+        zlo.read_zlo(raw, options, out)
+    elif kind == "cbr":
+        cabrillo.read_cabrillo(raw, options, out)
+    elif kind == "ADIF":
+        adif.read_adif(raw, options, out)
+    else:
+        text_logs.read_text_log(log, raw, options, out)

@@ -5,12 +5,16 @@ day, time, call, report sent, report received, band, mode, operator, memo, frequ
 received.
 """
 
+from collections.abc import Callable
+
 from .disk import INVALID_CALL, LineWriter, RunTimeFailure, read_lines
 from .options import Options
 from .sjis import decode, encode, mid_mbcs, trim
 
 ALL_HEADING = "zLog for Windows"
 TXT_HEADING = "mon day time  callsign"
+
+ContactRule = Callable[[str, Options], list[str]]  # a line becomes thirteen fields
 
 # The memo column begins behind this many characters.
 ALL_MEMO_EDGE = 79
@@ -31,8 +35,21 @@ def accepts(path: str, raw: bytes) -> bool:
 
 
 def read_text_log(path: str, raw: bytes, options: Options, out: LineWriter) -> None:
-    contact_of = all_contact if path[-3].lower() == "a" else txt_contact
-    for line in read_lines(raw)[1:]:
+    if path[-3].lower() == "a":
+        read_all_lines(read_lines(raw), options, out)
+    else:
+        write_contacts(read_lines(raw)[1:], txt_contact, options, out)
+
+
+def read_all_lines(lines: list[str], options: Options, out: LineWriter) -> None:
+    """The lines of an .ALL text; the first is a heading, whatever it says."""
+    write_contacts(lines[1:], all_contact, options, out)
+
+
+def write_contacts(
+    lines: list[str], contact_of: ContactRule, options: Options, out: LineWriter
+) -> None:
+    for line in lines:
         fields = contact_of(line, options)
         if is_kept(operator=fields[9], options=options):
             out.write_quoted(fields)
@@ -118,8 +135,12 @@ def get_operator(line: str) -> str:
 
 
 def get_frequency(line: str, options: Options) -> str:
+    return frequency_in(line) if options.is_on("Check01") else ""
+
+
+def frequency_in(line: str) -> str:
     """Kilohertz in parentheses, in MHz. What has not 4 to 7 characters is no frequency."""
-    if not options.is_on("Check01") or "(" not in line:
+    if "(" not in line:
         return ""
 
     text = trim(line.split("(")[1].replace(")", ""))
