@@ -52,7 +52,7 @@ class Contact:
 
     def all(self) -> str:
         return (
-            f"{self.time:%Y/%m/%d %H:%M} {self.call:12} 599 11M     599 {self.received:8} -     -     "
+            f"{self.time:%Y/%m/%d %H:%M} {self.call:12} 599 11M     599 {self.received:8}-     -     "
             f"{self.band:4} {self.mode:3}  1  %%{self.operator}%%{self.memo} ({self.kilohertz})"
         )
 

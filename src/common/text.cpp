@@ -394,9 +394,20 @@ std::string_view MidMbcs(std::string_view text, Count start, Count count) {
 }
 
 std::string fixed_width(std::string_view text, std::size_t width) {
-    std::string piece(MidMbcs(text, 1, static_cast<Count>(width)));
-    piece.append(width - LenMbcs(piece), ' ');
+    std::string piece;
+    append_fixed_width(piece, text, width);
     return piece;
+}
+
+void append_fixed_width(std::string& line, std::string_view text, std::size_t width) {
+    // Of a text that is ASCII as far as it is taken, a byte is a byte of the code page.
+    const std::string_view start = text.substr(0, width);
+    if (is_ascii(start)) {
+        line.append(start).append(width - start.size(), ' ');
+        return;
+    }
+    const std::string_view piece = MidMbcs(text, 1, static_cast<Count>(width));
+    line.append(piece).append(width - LenMbcs(piece), ' ');
 }
 
 FixedColumns::FixedColumns(std::string_view line) noexcept

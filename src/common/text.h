@@ -99,6 +99,8 @@ std::string_view MidMbcs(std::string_view text, Count start, Count count);
 // The text in exactly width bytes: filled with blanks, or cut, where half of a double-byte
 // character at the cut becomes a blank. For writing fixed columns.
 std::string fixed_width(std::string_view text, std::size_t width);
+// The same behind the end of a line that is put together.
+void append_fixed_width(std::string& line, std::string_view text, std::size_t width);
 
 // A line in fixed columns: MidMbcs for many columns of one line. Columns in the ASCII part at the
 // line's start, nearly all of a log's, are cut without counting. Keeps a view of the line.

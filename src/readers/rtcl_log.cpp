@@ -171,7 +171,9 @@ bool Unpacker::unpack(std::string_view record, QuotedLine& line) {
         return false;
     }
     const auto text = [this, record](Place place, Field field) {
-        return trim(page_text(record.substr(place.offset, place.size), own_[field]));
+        // Trimmed as bytes, where a blank is nothing else: most places hold few characters.
+        return page_text(trim_left(trim_right(record.substr(place.offset, place.size))),
+                         own_[field]);
     };
     const std::string_view band_text = text(layout_.band, band);
     const MomentDigits moment(time_of_days(double_at(record, layout_.days)));

@@ -82,7 +82,7 @@ void append_right_aligned(std::string_view text, std::size_t width, std::string&
 
 void write_all_line(const RowReader& row, std::string_view mode_text, std::string& line) {
     const auto put = [&line](std::string_view text, std::size_t width) {
-        line += fixed_width(text, width);
+        append_fixed_width(line, text, width);
     };
     line.assign(row[date]).append(" ");
     line.append(divided_text(left(row[time], 4), 4, 2, ':')).append(" ");
@@ -104,7 +104,7 @@ void write_all_line(const RowReader& row, std::string_view mode_text, std::strin
 
 void write_txt_line(const RowReader& row, std::string_view mode_text, std::string& line) {
     const auto put = [&line](std::string_view text, std::size_t width) {
-        line += fixed_width(text, width);
+        append_fixed_width(line, text, width);
     };
     std::string_view month = mid(row[date], 6, 2);
     if (month.starts_with('0')) {

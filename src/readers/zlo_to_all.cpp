@@ -14,7 +14,7 @@ constexpr std::string_view no_new_multiplier = "-";
 void write_contact(ZloRecord& contact, std::string& line) {
     const MomentDigits moment(contact.time());
     const auto put = [&line](std::string_view text, std::size_t width) {
-        line += fixed_width(text, width);
+        append_fixed_width(line, text, width);
     };
     line.clear();
     line.append(moment.year()).append("/").append(moment.month()).append("/").append(moment.day());

@@ -878,6 +878,17 @@ TEST(FixedWidth, FillsWithBlanksOrCuts) {
     EXPECT_EQ(fixed_width(byte_FD, 2), byte_FD + " ");
 }
 
+TEST(AppendFixedWidth, LeavesWhatStandsInFront) {
+    std::string line = "表";
+    append_fixed_width(line, "ab", 4);
+    append_fixed_width(line, "abcdef", 3);
+    append_fixed_width(line, "", 2);
+    append_fixed_width(line, "a山田", 4);  // half of the last character is a blank
+    append_fixed_width(line, "abc山", 3);
+    append_fixed_width(line, "x", 0);
+    EXPECT_EQ(line, "表ab  abc  a山 abc");
+}
+
 TEST(FixedWidth, PutsABlankForHalfACharacterAtTheCut) {
     EXPECT_EQ(fixed_width("漢字", 3), "漢 ");
     EXPECT_EQ(fixed_width("漢字", 1), " ");
