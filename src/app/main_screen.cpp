@@ -13,6 +13,7 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
     }
     ProgressBar1.visible = false;
     lblNo_qth_mas.visible = false;
+    lblLen.visible = false;
     for (MenuEntry* const entry : {&mnuMake_z2a, &mnuDisp_z2a, &mnuDisp_log2a}) {
         entry->enabled = false;
     }

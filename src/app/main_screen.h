@@ -19,7 +19,6 @@ constexpr std::array<std::string_view, 10> counter_labels{
 
 // Which source of a field stands at which rank, the highest first; coloured while it is in use.
 using RankLabels = ControlArray<Label, 4>;
-using ItemButtons = ControlArray<ItemButton, remark_item_count>;
 
 struct MainScreen : WindowForm {
     MainScreen();
@@ -129,6 +128,13 @@ struct MainScreen : WindowForm {
     RemarkSlots lblRmks1{*this, "lblRmks1"};
     RemarkSlots lblRmks2{*this, "lblRmks2"};
     ItemButtons Command1{*this, "Command1"};
+    Label lblLen{*this, "lblLen"};  // the length of the slot under the pointer
+    CommandButton cmdAll_Sort{*this, "cmdAll_Sort", "整列"};
+    CommandButton cmdSort_2{*this, "cmdSort_2", "整列"};
+    CommandButton cmdSort_3{*this, "cmdSort_3", "整列"};
+    CommandButton cmdAll_Redo{*this, "cmdAll_Redo", "戻す"};
+    CommandButton cmdCl_rmk1{*this, "cmdCl_rmk1", "消す"};
+    CommandButton cmdCl_rmk2{*this, "cmdCl_rmk2", "消す"};
 
     // --- what starts something ---
     CommandButton cmdStart{*this, "cmdStart", "変　　換"};

@@ -9,7 +9,7 @@
 #include "app/contest_choice.h"
 #include "app/option_table.h"
 #include "app/read_zlo_head.h"
-#include "app/remark_slot_settings.h"
+#include "app/slot_handlers.h"
 #include "app/source_ranks.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
@@ -345,7 +345,9 @@ void attach_option_handlers(Program& program) {
     on_change(screen.txtOp_name, [&program] { txtOp_name_Change(program.screen); });
     for (RemarkSlots* const slots : {&screen.lblRmks1, &screen.lblRmks2}) {
         for (RemarkSlot& slot : *slots) {
-            slot.item_entered = [&program] { program.event([&] { store_slots(program); }); };
+            slot.item_entered = [&program, &slot](const std::string& name) {
+                program.event([&] { drop_on_slot(program, slot, {.name = name}); });
+            };
         }
     }
 }

@@ -10,6 +10,7 @@
 #include "app/period_dialog.h"
 #include "app/program_end.h"
 #include "app/rtcl_tool.h"
+#include "app/slot_handlers.h"
 #include "app/viewing.h"
 #include "common/procedure.h"
 
@@ -44,6 +45,12 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.mnuOpen_Ctestwin_lg8, mnuOpen_Ctestwin_lg8_Click);
     attach(screen.mnuOpen_rtcl_log_set_new4, FileOpen_rtcl_log_set_new4);
     attach(screen.mnuOpen_rtcl_log_set_new430, FileOpen_rtcl_log_set_new430);
+    attach(screen.cmdAll_Sort, cmdAll_Sort_Click);
+    attach(screen.cmdSort_2, cmdSort_2_Click);
+    attach(screen.cmdSort_3, cmdSort_3_Click);
+    attach(screen.cmdAll_Redo, cmdAll_Redo_Click);
+    attach(screen.cmdCl_rmk1, cmdCl_rmk1_Click);
+    attach(screen.cmdCl_rmk2, cmdCl_rmk2_Click);
     attach(screen.mnu_rtcl_new4, mnu_rtcl_new_Click);
     attach(screen.mnu_rtcl_new430, mnu_rtcl_new_Click);
     attach(screen.mnuMake_z2a, mnuMake_z2a_Click);

@@ -30,6 +30,7 @@
 #include "readers/contest_selection.h"
 #include "readers/input_kind.h"
 #include "rows/call_sign.h"
+#include "rows/slot_rows.h"
 #include "settings/remark_items.h"
 #include "settings/settings_store.h"
 #include "viewers/frmDisp.h"
@@ -112,6 +113,7 @@ struct Program {
     Counters counters;
     RemarkUse remark_use;
     RemarkLengths remark_lengths;
+    SlotRows slot_rows{screen.lblRmks1, screen.lblRmks2, screen.Command1};
     CallMemory call_memory;
     ContestSelection selection;
     ContestRefusals refusals;

@@ -1,6 +1,5 @@
 #include "app/remark_slot_settings.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "common/text.h"
@@ -38,18 +37,6 @@ void fill(RemarkSlots& slots, RemarkLengths& lengths, std::string_view items,
     }
 }
 
-bool holds(const RemarkSlots& slots, std::string_view item) {
-    return std::any_of(slots.begin(), slots.end(),
-                       [item](const RemarkSlot& slot) { return slot.caption.get() == item; });
-}
-
-void show_items_in_use(MainScreen& screen) {
-    for (std::size_t i = 0; i < remark_item_count; ++i) {
-        const std::string_view item = remark_item_names[i];
-        screen.Command1[i].in_use = holds(screen.lblRmks1, item) || holds(screen.lblRmks2, item);
-    }
-}
-
 void take(const RemarkSlots& slots, const RemarkLengths& lengths, std::string& items,
           std::string& item_lengths) {
     items.clear();
@@ -67,15 +54,18 @@ void Disp_Rmks_cfg(Program& program) {
     fill_missing_lists(options);
     fill(program.screen.lblRmks1, program.remark_lengths, options.Rmks1_cfg, options.Rmks1_cfg_len);
     fill(program.screen.lblRmks2, program.remark_lengths, options.Rmks2_cfg, options.Rmks2_cfg_len);
-    show_items_in_use(program.screen);
+    program.slot_rows.use_name_Check();
 }
 
-void store_slots(Program& program) {
+void take_slots(Program& program) {
     OptionSettings& options = program.settings.options;
     const MainScreen& screen = program.screen;
     take(screen.lblRmks1, program.remark_lengths, options.Rmks1_cfg, options.Rmks1_cfg_len);
     take(screen.lblRmks2, program.remark_lengths, options.Rmks2_cfg, options.Rmks2_cfg_len);
-    show_items_in_use(program.screen);
+}
+
+void store_slots(Program& program) {
+    take_slots(program);
     program.settings.write_Veldrana_new_ini();
 }
 

@@ -11,7 +11,8 @@ namespace veldrana {
 // items are in use. Lists of which one is missing are those of a fresh program.
 void Disp_Rmks_cfg(Program& program);
 
-// Takes the slots into the kept lists and saves them.
+// Takes the slots into the kept lists, in memory, and saves them in the file besides.
+void take_slots(Program& program);
 void store_slots(Program& program);
 
 // Takes the layouts that a run works with into the kept lists.

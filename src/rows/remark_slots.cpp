@@ -8,9 +8,10 @@ bool RemarkSlot::enter(std::string_view value) {
     if (!value.empty() && !remark_item_named(value)) {
         return false;
     }
-    caption = std::string(value);
     if (item_entered) {
-        item_entered();
+        item_entered(std::string(value));
+    } else {
+        caption = std::string(value);
     }
     return true;
 }

@@ -18,8 +18,8 @@ class RemarkSlot : public Label {
   public:
     RemarkSlot(Form& form, std::string name) : Label(form, std::move(name)) {}
 
-    // What the form does when an item was put in, or taken out, by hand.
-    std::function<void()> item_entered;
+    // What the form does when an item is put in, or an empty name for taking it out.
+    std::function<void(const std::string& name)> item_entered;
 
     bool enter(std::string_view value) override;
 };
@@ -33,6 +33,7 @@ class ItemButton : public CommandButton {
     Property<bool> in_use{*this, false};
 };
 
+using ItemButtons = ControlArray<ItemButton, remark_item_count>;
 using RemarkSlots = ControlArray<RemarkSlot, remark_slot_count>;
 
 // The layout of one remark as a run uses it and as the option files keep it.

@@ -57,10 +57,10 @@ FIELDS = {
     "txtYYYY": None,  # the present year: a case whose result holds it has to set it
     "Check27": "0",  # ADIF: no letters of power in the received number
     "Check28": "0",  # ADIF: the received number from APP_N1MM_EXCHANGE1
-    **{slot: "" for slot in REMARK_SLOTS},
-    "lblRmks1(0)": "ｺﾝﾃｽﾄ",
-    "lblRmks2(0)": "Rmks2",
 }
+
+# Forms of an item that never stand in the slots together, once one of them was put there.
+OTHER_FORM = {"memo": "memo=", "memo=": "memo", "OP": "OP %", "OP %": "OP"}
 
 # One of two boxes going on takes the other off.
 EXCLUDED_BY = {
@@ -78,7 +78,8 @@ class Options:
         self._text_paths = stored.text_paths
         self.priorities = stored.priorities
         self.period = stored.period
-        self._values = {**stored.controls, **FIELDS}
+        slots = dict(zip(REMARK_SLOTS, stored.slots[0] + stored.slots[1], strict=True))
+        self._values = {**stored.controls, **FIELDS, **slots}
         self._choose_log_book()
         if stored.controls["Check8"] == "1":
             self._choose_only_text()
@@ -90,6 +91,9 @@ class Options:
     def _set(self, name: str, value: str) -> None:
         if name == "Option01" and value != "0":
             raise ValueError("Option01 has one button; only the stored value can leave it unchosen")
+        if name in REMARK_SLOTS:
+            self._drop(name, value)
+            return
         self._values[name] = value
         self._choose_log_book()
         if value != "1":
@@ -100,6 +104,13 @@ class Options:
             self._choose_only_text()
         if name in ("Check4_A", "Check4_B") and name not in self._text_paths:
             raise ValueError(f"{name} is taken back: it has no user text")
+
+    def _drop(self, target: str, item: str) -> None:
+        """An item put into a slot leaves every other slot, and so does its other form."""
+        for slot in REMARK_SLOTS:
+            if self._values[slot] in (item, OTHER_FORM.get(item, item)):
+                self._values[slot] = ""
+        self._values[target] = item
 
     def _choose_log_book(self) -> None:
         """Each button of Option07 but the first takes the log book with it."""

@@ -21,6 +21,8 @@ NEEDED_PATHS = (
 
 PRIORITY_KEYS = {"name": "name_yusen_jun", "code": "code_yusen_jun", "qth": "qth_yusen_jun"}
 DEFAULT_PRIORITY = "dat_mas,name_mas,qth_mas,Text_data"
+SLOT_KEYS = ("Rmks1_cfg", "Rmks2_cfg")
+SLOTS = 6
 PERIOD_KEYS = ("Start_date", "End_date", "use_system_date_flag")
 FIRST_DATE = "19600101"
 # A period that ends today ends behind it, wherever the clock stands.
@@ -138,6 +140,7 @@ class StoredOptions:
     controls: dict[str, str]
     text_paths: dict[str, str]  # the paths of the user texts, by the box that chooses each
     priorities: dict[str, list[str]]
+    slots: list[list[str]]  # the items of either remark, slot by slot
     period: Period
 
 
@@ -148,7 +151,8 @@ def read_stored_options(files: Drive, default: bytes, controls: list[str]) -> St
     case that changes another key is refused, so that a slip of the pen is seen.
     """
     profile = Profile(files[OPTION_FILE])
-    looked_at = [upper(key) for key in (*controls, *PERIOD_KEYS, *TEXT_PATH_KEYS.values())]
+    keys = (*controls, *PERIOD_KEYS, *TEXT_PATH_KEYS.values(), *SLOT_KEYS)
+    looked_at = [upper(key) for key in keys]
     section = "Veldrana_new.ini"
     usual = Profile(default)
     for key in {*profile.keys(section), *usual.keys(section)} - {*looked_at}:
@@ -170,6 +174,7 @@ def read_stored_options(files: Drive, default: bytes, controls: list[str]) -> St
             column: priority_list(profile.value("DAT_MAS", key))
             for column, key in PRIORITY_KEYS.items()
         },
+        slots=[slot_list(profile.value(section, key)) for key in SLOT_KEYS],
         period=read_period(*(profile.value(section, key) for key in PERIOD_KEYS)),
     )
 
@@ -181,6 +186,13 @@ def read_period(first: str, last: str, follows_today: str) -> Period:
         first=leading_digits(first or FIRST_DATE),
         last=leading_digits(last) if last != "" else None,
     )
+
+
+def slot_list(value: str) -> list[str]:
+    items = [item.strip(" ") for item in value.split(",")]
+    if value == "" or len(items) < SLOTS:
+        raise ValueError("the rules leave open what a list of fewer than six slots does")
+    return [to_unicode(item) for item in items[:SLOTS]]
 
 
 def priority_list(value: str) -> list[str]:
