@@ -67,7 +67,7 @@ void accept_log(Program& program, InputKind kind) {
     screen.Frame14.enabled = needs_year;
     const bool is_zlo = kind == InputKind::zlo;
     screen.mnuMake_z2a.enabled = is_zlo;
-    screen.mnuDisp_z2a.enabled = is_zlo && program.disk.file_exists(z2a_name(log.in_name));
+    screen.enable_z2a_viewers(is_zlo && program.disk.file_exists(z2a_name(log.in_name)));
     show_former_outputs(program);
     Op02_Chk(program);
     if (!is_zlo) {

@@ -14,7 +14,7 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
     ProgressBar1.visible = false;
     lblNo_qth_mas.visible = false;
     lblLen.visible = false;
-    for (MenuEntry* const entry : {&mnuMake_z2a, &mnuDisp_z2a, &mnuDisp_log2a}) {
+    for (MenuEntry* const entry : {&mnuMake_z2a, &mnuDisp_z2a, &mnuDisp_z2a_, &mnuDisp_log2a}) {
         entry->enabled = false;
     }
 }
@@ -58,6 +58,11 @@ void MainScreen::enable_member_search(bool on) {
              &mnuJARL_Web_NO_conj, &mnuJARL_Web_NO_hamj}) {
         control->enabled = on;
     }
+}
+
+void MainScreen::enable_z2a_viewers(bool on) {
+    mnuDisp_z2a.enabled = on;
+    mnuDisp_z2a_.enabled = on;
 }
 
 void MainScreen::enable_start(bool on) {

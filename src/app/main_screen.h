@@ -138,6 +138,11 @@ struct MainScreen : WindowForm {
 
     // --- what starts something ---
     CommandButton cmdStart{*this, "cmdStart", "変　　換"};
+    CommandButton cmdStart_JARL{*this, "cmdStart_JARL", "変換　＋　会員検索"};
+    CommandButton cmdStart_JARL2{*this, "cmdStart_JARL2", "変換 + 検索"};
+    CommandButton cmdRireki{*this, "cmdRireki", "履 歴"};
+    CommandButton cmdKetasu{*this, "cmdKetasu", "桁 数"};
+    CommandButton cmdStop{*this, "cmdStop", "強 制 終 了"};  // does nothing; kept
     CommandButton cmdDisp_contest{*this, "cmdDisp_contest", "contestj_n"};
     CommandButton cmdDisp_Hamlog{*this, "cmdDisp_Hamlog", "hamlogja_n"};
     CommandButton cmdDisp_in{*this, "cmdDisp_in", "入力ﾌｧｲﾙ"};
@@ -170,6 +175,19 @@ struct MainScreen : WindowForm {
     MenuEntry mnuOpenDat_semi{*this, "mnuOpenDat_semi", "個別DATﾌｧｲﾙを指定　（ 半自 ）"};
     MenuEntry make_ini{*this, "make_ini", "ini 作成"};
     MenuEntry mnuOpen_con_n{*this, "mnuOpen_con_n", "contestj_n.csv を開く"};
+    MenuEntry mnuGet_Value{*this, "mnuGet_Value", "Get_Value"};
+    MenuEntry mnuMake_hl_code_mas{*this, "mnuMake_hl_code_mas", "hl_code.mas の作成 "};
+    MenuEntry mnuYubin2{*this, "mnuYubin2", "郵便 yubin_m?.mas の作成"};
+    MenuEntry mnuEdit_Rmks{*this, "mnuEdit_Rmks", "Rmks 履歴"};
+    MenuEntry mnuDownLoad{*this, "mnuDownLoad", "DownLoad"};
+    MenuEntry mnuDisp_KRV{*this, "mnuDisp_KRV", "説明"};
+    MenuEntry mnuJK9RVW{*this, "mnuJK9RVW", "ホームページ"};
+    MenuEntry mnuYubin{*this, "mnuYubin", "郵便"};
+    MenuEntry mnuDisp_hl_code_mas{*this, "mnuDisp_hl_code_mas", "hl_code.mas"};
+    MenuEntry mnuDisp_z2a_{*this, "mnuDisp_z2a_", "＊．zLo => ＊．all"};
+    MenuEntry mnuDisp_Veldrana_ini{*this, "mnuDisp_Veldrana_ini", "Veldrana.ini"};
+    MenuEntry mnuDisp_Veldrana_new_ini{*this, "mnuDisp_Veldrana_new_ini", "Veldrana_new.ini"};
+    MenuEntry mnuDisp_Veldrana_cfg_ini{*this, "mnuDisp_Veldrana_cfg_ini", "Veldrana_cfg.ini"};
     MenuEntry mnuDisp_in{*this, "mnuDisp_in", "入力ﾌｧｲﾙ"};
     MenuEntry mnuDisp_dat{*this, "mnuDisp_dat", "dat"};
     MenuEntry mnuDisp_con_n{*this, "mnuDisp_con_n", "contestj_n.csv"};
@@ -199,6 +217,7 @@ struct MainScreen : WindowForm {
     ToolButton tool_dat_by_contest{*this, "dat半自"};
     ToolButton tool_make_ini{*this, "INI作成"};
     ToolButton tool_convert{*this, "変換"};
+    ToolButton tool_in{*this, "入力ﾌｧｲﾙ"};
     ToolButton tool_dat{*this, "dat"};
     ToolButton tool_contest{*this, "contestj_n"};
     ToolButton tool_hamlog{*this, "hamlogja_n"};
@@ -211,6 +230,9 @@ struct MainScreen : WindowForm {
 
     // The six entries of the member search and their head.
     void enable_member_search(bool on);
+
+    // Both entries that show the text of a binary log.
+    void enable_z2a_viewers(bool on);
 
     // Both ways to start a run.
     void enable_start(bool on);

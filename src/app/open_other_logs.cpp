@@ -6,11 +6,9 @@
 #include "app/contest_choice.h"
 #include "app/log_opening.h"
 #include "app/read_zlo_head.h"
-#include "app/viewing.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
-#include "output/output_names.h"
 #include "readers/adif.h"
 #include "readers/cabrillo.h"
 #include "readers/ctestwin.h"
@@ -160,19 +158,9 @@ void mnuOpen_Ctestwin_lg8_Click(Program& program) {
 void mnuMake_z2a_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuMake_z2a_Click()", [&] {
         make_z2a(program.stage(), program.log.in_name);
-        program.screen.mnuDisp_z2a.enabled = true;
+        program.screen.enable_z2a_viewers(true);
         program.screen.lblCFG.show("z2a ﾌｧｲﾙ  作 成 終 了", colours::blue);
     });
-}
-
-void mnuDisp_z2a_Click(Program& program) {
-    enter_procedure(program.trace, "Private Sub mnuDisp_z2a_Click()",
-                    [&] { show_text(program, z2a_name(program.log.in_name)); });
-}
-
-void mnuDisp_log2a_Click(Program& program) {
-    enter_procedure(program.trace, "Private Sub mnuDisp_log2a_Click()",
-                    [&] { show_text(program, log2a_name(program.log.chosen)); });
 }
 
 MenuEntry& open_entry(MainScreen& screen, InputKind kind) {

@@ -19,11 +19,8 @@ void FileOpen_rtcl_log_set_new430(Program& program);
 // Has the converter beside the program make a text of the log; a run then reads that text.
 void mnuOpen_Ctestwin_lg8_Click(Program& program);
 
-// A binary log of zLog as a text beside it, and that text in the viewer.
+// A binary log of zLog as a text beside it.
 void mnuMake_z2a_Click(Program& program);
-void mnuDisp_z2a_Click(Program& program);
-// The text that a run has made of an RTCL log.
-void mnuDisp_log2a_Click(Program& program);
 
 // The menu entry that opens logs of a kind.
 MenuEntry& open_entry(MainScreen& screen, InputKind kind);

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "app/contest_choice.h"
+#include "app/control_list.h"
 #include "app/conversion_driver.h"
 #include "app/open_other_logs.h"
 #include "app/open_text_log.h"
@@ -54,8 +55,6 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.mnu_rtcl_new4, mnu_rtcl_new_Click);
     attach(screen.mnu_rtcl_new430, mnu_rtcl_new_Click);
     attach(screen.mnuMake_z2a, mnuMake_z2a_Click);
-    attach(screen.mnuDisp_z2a, mnuDisp_z2a_Click);
-    attach(screen.mnuDisp_log2a, mnuDisp_log2a_Click);
     attach(screen.mnuOpen_con_n, mnuOpen_con_n_Click);
     attach(screen.tool_open, mnuOpen_all_txt_set_Click);
     attach(screen.cmdStart, cmdStart_Click);
@@ -75,6 +74,9 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     const auto write_options = [](Program& program) { program.settings.write_Veldrana_new_ini(); };
     attach(screen.make_ini, write_options);
     attach(screen.tool_make_ini, write_options);
+    attach(screen.cmdDisp_dat2, cmdDisp_dat_Click);
+    attach(screen.mnuGet_Value, mnuGet_Value_Click);
+    attach_viewers(*this);
     attach_option_handlers(*this);
 }
 
