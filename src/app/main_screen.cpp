@@ -19,6 +19,74 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
     }
 }
 
+std::vector<Menu> MainScreen::menu() {
+    const Menu line;
+    return {
+        {&mnuFile,
+         {{&mnuGet_Value},
+          line,
+          {&mnuOpen},
+          {&mnuOpen_all_txt_set},
+          {&mnuOpen_z},
+          {&mnuOpen_z_set},
+          {&mnuOpen_cbr},
+          {&mnuOpen_ADIF},
+          {&mnuOpen_Ctestwin_lg8},
+          {&mnuOpen_rtcl_log_set_new4},
+          {&mnuOpen_rtcl_log_set_new430},
+          line,
+          {&mnu_rtcl_new4},
+          {&mnu_rtcl_new430},
+          line,
+          {&mnuOpenDat_mnu},
+          {&mnuOpenDat_semi},
+          line,
+          {&mnuMake_z2a},
+          {&mnuDisp_z2a},
+          {&mnuMake_hl_code_mas},
+          {&mnuYubin2},
+          line,
+          {&make_ini}}},
+        {&mnuDisp,
+         {{&mnuDisp_in},
+          {&mnuDisp_dat},
+          {&mnuDisp_hl_code_mas},
+          line,
+          {&mnuDisp_con_n},
+          {&mnuDisp_ham_n},
+          {&mnuDisp_con_new},
+          {&mnuDisp_ham_new},
+          {&mnuDisp_dup},
+          {&mnuDisp_log2a},
+          {&mnuDisp_z2a_},
+          line,
+          {&mnuDisp_Veldrana_ini},
+          {&mnuDisp_Veldrana_new_ini},
+          {&mnuDisp_Veldrana_cfg_ini},
+          {&mnuDisp_Veldrana_Rireki_cfg},
+          {&mnuDisp_Veldrana_rmk1},
+          {&mnuDisp_Veldrana_rmk2},
+          line,
+          {&mnuDisp_QSOBank}}},
+        {&mnuDel, {{&mnuOpen_con_n}}},
+        {&mnuEdit_Rmks},
+        {&mnuDownLoad},
+        {&mnuHelp, {{&mnuDisp_KRV}, {&mnuJK9RVW}}},
+        {&mnuQSOBank},
+        {&mnuJARL,
+         {{&mnuJARL_Web_OK, {{&mnuJARL_Web_OK_conj}, {&mnuJARL_Web_OK_hamj}}},
+          {&mnuJARL_Web_NO, {{&mnuJARL_Web_NO_conj}, {&mnuJARL_Web_NO_hamj}}}}},
+        {&mnuCheck_dat, {{&mnuCheck_dat_bunrui}}},
+        {&mnuYubin},
+    };
+}
+
+std::vector<ToolButton*> MainScreen::toolbar() {
+    return {&tool_open,     &tool_open_z,  &tool_dat_by_hand, &tool_dat_by_contest,
+            &tool_make_ini, &tool_convert, &tool_in,          &tool_dat,
+            &tool_contest,  &tool_hamlog,  &tool_dup,         &tool_end};
+}
+
 void MainScreen::enable_dat_choice(bool on) {
     for (Control* const control :
          std::initializer_list<Control*>{&Option03, &mnuOpenDat_mnu, &mnuOpenDat_semi,

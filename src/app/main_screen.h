@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
 #include "common/controls.h"
 #include "rows/remark_slots.h"
@@ -19,6 +20,11 @@ constexpr std::array<std::string_view, 10> counter_labels{
 
 // Which source of a field stands at which rank, the highest first; coloured while it is in use.
 using RankLabels = ControlArray<Label, 4>;
+
+struct Menu {
+    MenuEntry* entry = nullptr;  // null: a line between entries
+    std::vector<Menu> below = {};
+};
 
 struct MainScreen : WindowForm {
     MainScreen();
@@ -175,6 +181,10 @@ struct MainScreen : WindowForm {
     MenuEntry mnuOpenDat_semi{*this, "mnuOpenDat_semi", "個別DATﾌｧｲﾙを指定　（ 半自 ）"};
     MenuEntry make_ini{*this, "make_ini", "ini 作成"};
     MenuEntry mnuOpen_con_n{*this, "mnuOpen_con_n", "contestj_n.csv を開く"};
+    MenuEntry mnuFile{*this, "mnuFile", "ファイル"};
+    MenuEntry mnuDisp{*this, "mnuDisp", "表示"};
+    MenuEntry mnuDel{*this, "mnuDel", "G・L欄の＃を置換"};
+    MenuEntry mnuHelp{*this, "mnuHelp", "Help"};
     MenuEntry mnuGet_Value{*this, "mnuGet_Value", "Get_Value"};
     MenuEntry mnuMake_hl_code_mas{*this, "mnuMake_hl_code_mas", "hl_code.mas の作成 "};
     MenuEntry mnuYubin2{*this, "mnuYubin2", "郵便 yubin_m?.mas の作成"};
@@ -223,6 +233,10 @@ struct MainScreen : WindowForm {
     ToolButton tool_hamlog{*this, "hamlogja_n"};
     ToolButton tool_dup{*this, "＊．ｄｕｐ"};
     ToolButton tool_end{*this, "終了"};
+
+    // The menu in the order of the screen; an entry with others below it is a head.
+    std::vector<Menu> menu();
+    std::vector<ToolButton*> toolbar();
 
     // Enable and disable what needs a chosen log.
     void disp_enable_t();

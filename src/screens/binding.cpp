@@ -1,0 +1,248 @@
+#include "screens/binding.h"
+
+#include <cmath>
+#include <memory>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSignalBlocker>
+
+namespace veldrana {
+namespace {
+
+// Relative luminance of a colour, 0 to 1.
+double luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+void show_common(const Control& control, QWidget* widget) {
+    widget->setVisible(control.visible);
+    widget->setEnabled(control.enabled);
+    widget->setToolTip(to_qt(control.tool_tip.get()));
+}
+
+void colour_text(QWidget* widget, Colour colour) {
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, readable(colour));
+    palette.setColor(QPalette::ButtonText, readable(colour));
+    palette.setColor(QPalette::Text, readable(colour));
+    widget->setPalette(palette);
+}
+
+// An ampersand in a caption is a character, not a short cut.
+QString caption_of(std::string_view text) {
+    return to_qt(text).replace("&", "&&").trimmed();
+}
+
+}  // namespace
+
+QString to_qt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string from_qt(const QString& text) {
+    return text.toStdString();
+}
+
+QColor readable(Colour colour) {
+    constexpr int red = 0xFF;
+    constexpr unsigned byte = 8;
+    constexpr double darkest_grey = 0.18;  // a contrast of 4.5 against white
+    QColor shown(static_cast<int>(colour.bgr) & red, static_cast<int>(colour.bgr >> byte) & red,
+                 static_cast<int>(colour.bgr >> 2 * byte) & red);
+    while (luminance(shown) > darkest_grey) {
+        shown = shown.darker(115);
+    }
+    return shown;
+}
+
+void Binder::follow(Control& control, std::function<void()> show) {
+    show();
+    control.listener = std::move(show);
+}
+
+void Binder::bind(Label& control, QLabel* widget) {
+    widget->setTextFormat(Qt::PlainText);
+    follow(control, [&control, widget] {
+        show_common(control, widget);
+        widget->setText(to_qt(control.caption.get()));
+        colour_text(widget, control.fore_colour);
+        QFont font = widget->font();
+        font.setPointSizeF(QApplication::font().pointSizeF() * (control.large_letters ? 1.6 : 1.0));
+        widget->setFont(font);
+    });
+}
+
+void Binder::bind(Frame& control, QGroupBox* widget) {
+    follow(control, [&control, widget] { show_common(control, widget); });
+}
+
+void Binder::bind(CommandButton& control, QPushButton* widget) {
+    follow(control, [&control, widget] {
+        show_common(control, widget);
+        widget->setEnabled(control.enabled && control.Click != nullptr);
+        widget->setText(caption_of(control.caption.get()));
+    });
+    QObject::connect(widget, &QPushButton::clicked, widget,
+                     [this, &control] { pump_.run([&control] { control.press(); }); });
+}
+
+void Binder::bind(CommandButton& control, QAction* action) {
+    follow(control, [&control, action] {
+        action->setVisible(control.visible);
+        action->setEnabled(control.enabled &&
+                           (control.Click != nullptr || action->menu() != nullptr));
+        action->setText(caption_of(control.caption.get()));
+        if (!control.tool_tip.get().empty()) {
+            action->setToolTip(to_qt(control.tool_tip.get()));
+        }
+    });
+    QObject::connect(action, &QAction::triggered, action,
+                     [this, &control] { pump_.run([&control] { control.press(); }); });
+}
+
+void Binder::bind(CheckBox& control, QCheckBox* widget) {
+    follow(control, [&control, widget] {
+        show_common(control, widget);
+        const QSignalBlocker quiet(widget);
+        widget->setText(caption_of(control.caption.get()));
+        widget->setChecked(control.value);
+        colour_text(widget, control.fore_colour);
+    });
+    QObject::connect(widget, &QCheckBox::toggled, widget, [this, &control](bool checked) {
+        pump_.run([&control, checked] { control.value = checked; });
+    });
+}
+
+void Binder::bind(OptionGroup& control, const std::vector<QRadioButton*>& widgets) {
+    follow(control, [&control, widgets] {
+        const std::vector<OptionGroup::Button>& buttons = control.buttons.get();
+        for (std::size_t i = 0; i < widgets.size() && i < buttons.size(); ++i) {
+            QRadioButton* const widget = widgets[i];
+            show_common(control, widget);
+            widget->setEnabled(control.enabled && buttons[i].enabled);
+            widget->setText(caption_of(buttons[i].caption));
+            colour_text(widget, buttons[i].fore_colour);
+            const QSignalBlocker quiet(widget);
+            const bool chosen = control.index == static_cast<int>(i);
+            // The only way to leave none of a group checked.
+            widget->setAutoExclusive(false);
+            widget->setChecked(chosen);
+        }
+    });
+    for (std::size_t i = 0; i < widgets.size(); ++i) {
+        QObject::connect(widgets[i], &QRadioButton::clicked, widgets[i], [this, &control, i] {
+            pump_.run([&control, i] { control.index = static_cast<int>(i); });
+            control.listener();  // a click on the chosen one must not take it off
+        });
+    }
+}
+
+void Binder::bind(TextBox& control, QLineEdit* widget) {
+    follow(control, [&control, widget] {
+        show_common(control, widget);
+        colour_text(widget, control.fore_colour);
+        const QString text = to_qt(control.text.get());
+        if (widget->text() != text) {
+            const QSignalBlocker quiet(widget);
+            widget->setText(text);
+        }
+    });
+    QObject::connect(widget, &QLineEdit::textChanged, widget,
+                     [this, &control](const QString& text) {
+                         pump_.run([&control, &text] { control.text = from_qt(text); });
+                     });
+}
+
+void Binder::bind(ListBox& control, QListWidget* widget) {
+    const auto shown = std::make_shared<std::vector<std::string>>();
+    follow(control, [&control, widget, shown] {
+        show_common(control, widget);
+        const QSignalBlocker quiet(widget);
+        if (*shown != control.rows.get() || widget->count() == 0) {
+            *shown = control.rows.get();
+            widget->clear();
+            for (const std::string& row : *shown) {
+                widget->addItem(to_qt(row));
+            }
+        }
+        widget->setCurrentRow(control.index);
+        if (control.index >= 0) {
+            widget->scrollToItem(widget->item(control.index));
+        }
+    });
+    QObject::connect(widget, &QListWidget::currentRowChanged, widget, [this, &control](int row) {
+        pump_.run([&control, row] { control.index = row; });
+    });
+}
+
+void Binder::bind(TabControl& control, QTabWidget* widget) {
+    follow(control, [&control, widget] {
+        const QSignalBlocker quiet(widget);
+        widget->setCurrentIndex(control.tab);
+    });
+    QObject::connect(widget, &QTabWidget::currentChanged, widget, [this, &control](int tab) {
+        pump_.run([&control, tab] { control.tab = tab; });
+    });
+}
+
+void Binder::bind(Grid& control, QTableWidget* widget) {
+    constexpr int twips_of_a_pixel = 15;
+    const auto columns = static_cast<int>(control.column_widths().size());
+    widget->setRowCount(static_cast<int>(control.rows()));
+    widget->setColumnCount(columns);
+    widget->horizontalHeader()->hide();
+    widget->verticalHeader()->hide();
+    widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    for (int column = 0; column < columns; ++column) {
+        widget->setColumnWidth(
+            column, control.column_widths()[static_cast<std::size_t>(column)] / twips_of_a_pixel);
+    }
+    follow(control, [&control, widget, columns] {
+        for (int row = 0; row < widget->rowCount(); ++row) {
+            for (int column = 0; column < columns; ++column) {
+                const Grid::Cell& cell =
+                    control.cell(static_cast<std::size_t>(row), static_cast<std::size_t>(column));
+                QTableWidgetItem* item = widget->item(row, column);
+                if (item == nullptr) {
+                    item = new QTableWidgetItem;
+                    widget->setItem(row, column, item);
+                }
+                item->setText(to_qt(cell.text));
+                item->setForeground(readable(cell.fore_colour));
+            }
+        }
+    });
+}
+
+void Binder::bind(ProgressBar& control, QProgressBar* widget) {
+    constexpr int steps = 1000;
+    constexpr int frame = 40;  // milliseconds between two looks at the screen
+    widget->setRange(0, steps);
+    widget->setTextVisible(false);
+    const auto since_last_look = std::make_shared<QElapsedTimer>();
+    since_last_look->start();
+    follow(control, [&control, widget, since_last_look] {
+        widget->setVisible(control.visible);
+        widget->setValue(static_cast<int>(control.value * steps / control.maximum));
+        if (since_last_look->elapsed() >= frame) {
+            QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            since_last_look->restart();
+        }
+    });
+}
+
+void unbind(const Form& form) {
+    for (Control* const control : form.controls()) {
+        control->listener = nullptr;
+    }
+}
+
+}  // namespace veldrana

@@ -1,0 +1,285 @@
+#include "screens/dialog_views.h"
+
+#include <QAbstractListModel>
+#include <QCloseEvent>
+#include <QHeaderView>
+#include <QListView>
+#include <QMenuBar>
+#include <QScrollBar>
+
+#include "readers/frmCon_sel.h"
+#include "readers/frmRTCL_v4.h"
+#include "screens/text_view.h"
+#include "screens/view_builder.h"
+#include "settings/frmDate.h"
+#include "viewers/frmCheck_bak_qso_mas.h"
+#include "viewers/frmDisp.h"
+
+namespace veldrana {
+namespace {
+
+// A dialog around a form: its title, its place, and what its frame's close button does.
+class FormView : public QDialog {
+  public:
+    FormView(WindowForm& form, Pump& pump, QWidget* parent)
+        : QDialog(parent), build(pump), form_(form) {
+        setWindowModality(Qt::ApplicationModal);
+        const auto follow = [this] {
+            setWindowTitle(to_qt(form_.window.caption.get()).trimmed());
+            if (!form_.window.visible) {
+                hide();
+            }
+        };
+        follow();
+        form.window.listener = follow;
+    }
+    ~FormView() override { unbind(form_); }
+
+    // Runs when the window is closed by its frame or by Escape.
+    std::function<void()> leave;
+
+    // As it was left, else in a size that suits it.
+    void place(const QSize& usual) {
+        if (const auto& placement = form_.window.placement.get()) {
+            setGeometry(static_cast<int>(placement->left), static_cast<int>(placement->top),
+                        static_cast<int>(placement->width), static_cast<int>(placement->height));
+        } else {
+            resize(usual);
+        }
+        placed_ = true;
+    }
+
+    ViewBuilder build;
+
+  protected:
+    void reject() override {
+        build.pump().run([this] {
+            if (leave) {
+                leave();
+            } else {
+                form_.window.visible = false;
+            }
+        });
+    }
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        reject();
+    }
+    void moveEvent(QMoveEvent* event) override {
+        QDialog::moveEvent(event);
+        tell_placement();
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QDialog::resizeEvent(event);
+        tell_placement();
+    }
+
+  private:
+    void tell_placement() {
+        if (!placed_) {
+            return;
+        }
+        const QRect place = geometry();
+        form_.window.placement = WindowPlacement{.left = static_cast<float>(place.left()),
+                                                 .top = static_cast<float>(place.top()),
+                                                 .width = static_cast<float>(place.width()),
+                                                 .height = static_cast<float>(place.height())};
+    }
+
+    WindowForm& form_;
+    bool placed_ = false;
+};
+
+QHBoxLayout* row_at_right(std::initializer_list<QPushButton*> buttons) {
+    auto* const layout = new QHBoxLayout;
+    layout->addStretch();
+    for (QPushButton* const button : buttons) {
+        layout->addWidget(button);
+    }
+    return layout;
+}
+
+std::unique_ptr<QDialog> view_of(frmDate& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    const auto day = [&build](Label& title,
+                              std::initializer_list<std::pair<ListBox*, QString>> lists) {
+        auto* const table = new QGridLayout;
+        int place = 0;
+        for (const auto& [list, unit] : lists) {
+            QListWidget* const widget = build.list(*list);
+            widget->setFixedWidth(widget->fontMetrics().horizontalAdvance("000000") +
+                                  widget->verticalScrollBar()->sizeHint().width());
+            table->addWidget(caption(unit), 0, place, Qt::AlignHCenter);
+            table->addWidget(widget, 1, place++);
+        }
+        return box(to_qt(title.caption.get()).trimmed(), table);
+    };
+    auto* const start =
+        day(form.lblStart, {{&form.List1, "年"}, {&form.List2, "月"}, {&form.List3, "日"}});
+    auto* const end =
+        day(form.lblEnd, {{&form.List4, "年"}, {&form.List5, "月"}, {&form.List6, "日"}});
+    QPushButton* const ok = build.button(form.cmdOK);
+    view->setLayout(column({row({start, end}, false), build.label(form.Label6),
+                            row({build.check(form.Check1), build.button(form.cmdGet_date)}),
+                            build.label(form.Label7), row_at_right({ok})}));
+    view->place(QSize(520, 420));
+    return view;
+}
+
+std::unique_ptr<QDialog> view_of(frmCon_sel& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    view->leave = [&form] { form.cmdBack.press(); };
+
+    QListWidget* const sample = build.list(form.List2);
+    sample->setFont(fixed_font());
+    sample->setMaximumWidth(sample->fontMetrics().horizontalAdvance(QString(18, u'0')));
+    QListWidget* const contests = build.list(form.List1);
+    contests->setFont(fixed_font());
+    auto* const lists = new QHBoxLayout;
+    lists->addLayout(column({caption("受信した番号"), sample}));
+    QLineEdit* const search = build.edit(form.Text1, 0);
+    search->setPlaceholderText("検索する dat , mas mst ファイル名かコンテスト名の略称を入力する。");
+    QObject::connect(search, &QLineEdit::returnPressed, search,
+                     [&form, &pump] { pump.run([&form] { form.Text1_Enter(); }); });
+    lists->addLayout(
+        column({row({search, build.button(form.cmdSearch), build.button(form.cmdCLR)}, false),
+                contests}),
+        1);
+
+    auto* const facts = new QGridLayout;
+    const std::vector<std::pair<QString, Label*>> names{
+        {"No", &form.lblFile_no},         {"コンテスト名", &form.lblCon_name},
+        {"個別 DAT", &form.lblDat_name},  {"ナンバー", &form.lblCon_no_1},
+        {"", &form.lblCon_no_2},          {"コード・フラグ", &form.lblCode_flag},
+        {"処理方法", &form.lblCode_type}, {"種別", &form.lblFile_Syubetu},
+    };
+    int place = 0;
+    for (const auto& [title, label] : names) {
+        facts->addWidget(caption(title), place, 0);
+        facts->addWidget(build.label(*label), place++, 1);
+    }
+    facts->setColumnStretch(1, 1);
+
+    view->setLayout(column({
+        row({caption("入力"), build.path_label(form.lblIn_name)}, false),
+        lists,
+        row({caption("ナンバーの形"), build.label(form.lblC_key)}),
+        box("選択したコンテスト", facts),
+        build.label(form.lblMsg1),
+        build.label(form.lblMsg2),
+        row_at_right({build.button(form.cmdOK), build.button(form.cmdBack)}),
+    }));
+    view->place(QSize(980, 720));
+    return view;
+}
+
+std::unique_ptr<QDialog> view_of(frmDisp& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    view->leave = [&form] { form.mnuOK.press(); };
+    auto* const bar = new QMenuBar;
+    bar->addAction(build.action(form.mnuOK, bar));
+    QLayout* const layout = column({text_view(form.text())});
+    layout->setMenuBar(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    view->setLayout(layout);
+    view->place(QSize(900, 640));
+    return view;
+}
+
+std::unique_ptr<QDialog> view_of(frmCheck_bak_qso_mas& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    view->leave = [&form] { form.mnuBack.press(); };
+    auto* const bar = new QMenuBar;
+    bar->addAction(build.action(form.mnuBack, bar));
+    bar->addAction(build.action(form.mnuHelp, bar));
+    QTableWidget* const grid = build.grid(form.Grid1);
+    grid->setFont(fixed_font());
+    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    grid->setSelectionMode(QAbstractItemView::NoSelection);
+    QObject::connect(
+        grid, &QTableWidget::cellClicked, grid, [&form, &pump, grid](int row, int column) {
+            const QModelIndex cell = grid->model()->index(row, column);
+            const int within =
+                grid->viewport()->mapFromGlobal(QCursor::pos()).x() - grid->visualRect(cell).left();
+            const int width = grid->fontMetrics().horizontalAdvance(u'0');
+            pump.run([&] {
+                form.Grid1.press(
+                    {.row = static_cast<std::size_t>(row),
+                     .column = static_cast<std::size_t>(column),
+                     .character = static_cast<std::size_t>(std::max(0, within / width))});
+            });
+        });
+    QLayout* const layout = column({grid});
+    layout->setMenuBar(bar);
+    view->setLayout(layout);
+    view->place(QSize(820, 320));
+    return view;
+}
+
+std::unique_ptr<QDialog> view_of(frmRTCL_v4& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    view->leave = [&form] { form.mnuBack.press(); };
+    auto* const bar = new QMenuBar;
+    const auto add = [&build, bar](CommandButton& head, std::initializer_list<MenuEntry*> entries) {
+        QMenu* const menu = bar->addMenu(QString());
+        build.binder().bind(head, menu->menuAction());
+        for (MenuEntry* const entry : entries) {
+            menu->addAction(build.action(*entry, menu));
+        }
+    };
+    add(form.mnuOpen_log, {&form.mnuVer_430mae, &form.mnuVer_430ato});
+    add(form.mnuDisp, {&form.mnuInFile, &form.mnuOutFile_txt, &form.mnuOutFile_all});
+    bar->addAction(build.action(form.mnuBack, bar));
+    QLayout* const layout =
+        column({row({build.button(form.cmdMake_txt), build.button(form.cmdMake_all)}, false),
+                build.label(form.lblInfo), build.label(form.lblOut_name)});
+    layout->setMenuBar(bar);
+    view->setLayout(layout);
+    view->place(QSize(520, 180));
+    return view;
+}
+
+// A form without a view of its own: its labels and buttons, one below the other.
+std::unique_ptr<QDialog> plain_view(WindowForm& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    auto* const layout = new QVBoxLayout;
+    for (Control* const control : form.controls()) {
+        if (auto* const button = dynamic_cast<CommandButton*>(control)) {
+            layout->addWidget(view->build.button(*button));
+        } else if (auto* const label = dynamic_cast<Label*>(control)) {
+            layout->addWidget(view->build.label(*label));
+        }
+    }
+    view->setLayout(layout);
+    view->place(view->sizeHint());
+    return view;
+}
+
+// The view of the form's own type; nothing if it is of another.
+template <class Form>
+bool is_shown_as(WindowForm& form, Pump& pump, QWidget* parent, std::unique_ptr<QDialog>& view) {
+    auto* const own = dynamic_cast<Form*>(&form);
+    if (own != nullptr) {
+        view = view_of(*own, pump, parent);
+    }
+    return own != nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<QDialog> make_view(WindowForm& form, Pump& pump, QWidget* parent) {
+    std::unique_ptr<QDialog> view;
+    const bool known = is_shown_as<frmDate>(form, pump, parent, view) ||
+                       is_shown_as<frmCon_sel>(form, pump, parent, view) ||
+                       is_shown_as<frmDisp>(form, pump, parent, view) ||
+                       is_shown_as<frmCheck_bak_qso_mas>(form, pump, parent, view) ||
+                       is_shown_as<frmRTCL_v4>(form, pump, parent, view);
+    return known ? std::move(view) : plain_view(form, pump, parent);
+}
+
+}  // namespace veldrana

@@ -1,0 +1,54 @@
+// Owns the main window: the main screen's controls, laid out. Nothing is decided here.
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "app/program.h"
+#include "screens/view_builder.h"
+
+namespace veldrana {
+
+class MainWindow : public QMainWindow {
+  public:
+    MainWindow(Program& program, Pump& pump);
+    ~MainWindow() override;
+
+  protected:
+    // Ends the program in order; while a run goes on the window stays.
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    // A log that is dropped on the window goes the way of its menu entry.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void make_menu();
+    void make_toolbar();
+    QWidget* make_files();
+    QTabWidget* make_run_tabs();
+    QTabWidget* make_source_tabs();
+    QWidget* conversion_page();
+    QWidget* output_page();
+    QWidget* member_page();
+    QWidget* result_page();
+    QWidget* dat_page();
+    QWidget* qth_page();
+    QWidget* text_page();
+    QWidget* rank_page();
+    QWidget* make_remarks();
+    QWidget* make_start();
+    void follow_window();
+    void tell_placement();
+    void look_under_pointer();
+
+    Program& program_;
+    MainScreen& screen_;
+    Pump& pump_;
+    ViewBuilder build_;
+    QTimer pointer_timer_;
+    bool placed_ = false;
+};
+
+}  // namespace veldrana

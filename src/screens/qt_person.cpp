@@ -1,0 +1,105 @@
+#include "screens/qt_person.h"
+
+#include <memory>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "screens/binding.h"
+#include "screens/dialog_views.h"
+
+namespace veldrana {
+namespace {
+
+QMessageBox::Icon icon_of(Icon icon) {
+    switch (icon) {
+        case Icon::information:
+            return QMessageBox::Information;
+        case Icon::warning:
+            return QMessageBox::Warning;
+        case Icon::critical:
+            return QMessageBox::Critical;
+        case Icon::none:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+QStringList name_filters(const std::string& filter) {
+    QStringList filters;
+    const QStringList pieces = to_qt(filter).split('|');
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        QStringList patterns;
+        for (const QString& pattern : pieces[i + 1].split(';', Qt::SkipEmptyParts)) {
+            // Names are found in any case; the host's dialog tells capitals apart.
+            patterns << pattern.trimmed().toLower();
+            if (pattern.trimmed().toUpper() != patterns.back()) {
+                patterns << pattern.trimmed().toUpper();
+            }
+        }
+        const QString title = pieces[i].section('(', 0, 0).trimmed();
+        filters << (title.isEmpty() ? pieces[i] : title) + " (" + patterns.join(' ') + ")";
+    }
+    return filters;
+}
+
+QWidget* QtPerson::front() const {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : parent_;
+}
+
+std::string QtPerson::program_path(const QString& host) const {
+    return disk_.program_path(std::filesystem::path(host.toStdU16String()));
+}
+
+Answer QtPerson::show(const MessageBox& box) {
+    QMessageBox shown(
+        icon_of(box.icon), to_qt(box.title).trimmed(), to_qt(box.text),
+        box.buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Retry | QMessageBox::Cancel,
+        front());
+    shown.setTextFormat(Qt::PlainText);
+    if (box.buttons == Buttons::retry_cancel) {
+        shown.button(QMessageBox::Retry)->setText("再 試 行");
+        shown.button(QMessageBox::Cancel)->setText("キャンセル");
+        shown.setDefaultButton(QMessageBox::Retry);
+        return shown.exec() == QMessageBox::Retry ? Answer::retry : Answer::cancel;
+    }
+    shown.button(QMessageBox::Ok)->setText("ＯＫ");
+    shown.exec();
+    return Answer::ok;
+}
+
+std::string QtPerson::choose_file(const FileDialog& dialog) {
+    if (!next_.empty()) {
+        return std::exchange(next_, {});
+    }
+    QFileDialog shown(front(),
+                      to_qt(dialog.title.empty() ? "ファイルを開く" : dialog.title).trimmed());
+    shown.setNameFilters(name_filters(dialog.filter));
+    shown.setFileMode(dialog.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (!dialog.folder.empty() && disk_.folder_exists(dialog.folder)) {
+        shown.setDirectory(QString::fromStdU16String(disk_.host_path(dialog.folder).u16string()));
+    } else if (!last_folder_.isEmpty()) {
+        shown.setDirectory(last_folder_);
+    }
+    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) {
+        return {};
+    }
+    last_folder_ = shown.directory().absolutePath();
+    return program_path(shown.selectedFiles().front());
+}
+
+void QtPerson::show_modal(WindowForm& form) {
+    const std::unique_ptr<QDialog> view = make_view(form, pump_, front());
+    view->show();
+    pump_.loop_until([&form] { return !form.window.visible; });
+}
+
+void QtPerson::pending_events() {
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace veldrana
