@@ -3,6 +3,7 @@
 #include "app/chosen_log.h"
 #include "app/contest_choice.h"
 #include "app/option_handlers.h"
+#include "app/recent_logs.h"
 #include "common/text.h"
 #include "readers/zlo_to_all.h"
 
@@ -73,6 +74,7 @@ void accept_log(Program& program, InputKind kind) {
     if (!is_zlo) {
         settle_dat(program, kind);
     }
+    note_recent_log(program, log.chosen);
     check_readiness(program);
 }
 

@@ -21,6 +21,10 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
 
 std::vector<Menu> MainScreen::menu() {
     const Menu line;
+    std::vector<Menu> recent;
+    for (RecentEntry& entry : mnuRecent) {
+        recent.push_back({&entry});
+    }
     return {
         {&mnuFile,
          {{&mnuGet_Value},
@@ -34,6 +38,7 @@ std::vector<Menu> MainScreen::menu() {
           {&mnuOpen_Ctestwin_lg8},
           {&mnuOpen_rtcl_log_set_new4},
           {&mnuOpen_rtcl_log_set_new430},
+          {&mnuRecentHead, recent},
           line,
           {&mnu_rtcl_new4},
           {&mnu_rtcl_new430},

@@ -21,6 +21,12 @@ constexpr std::array<std::string_view, 10> counter_labels{
 // Which source of a field stands at which rank, the highest first; coloured while it is in use.
 using RankLabels = ControlArray<Label, 4>;
 
+// A log that was opened before; its caption is the path.
+class RecentEntry : public MenuEntry {
+  public:
+    RecentEntry(Form& form, std::string name) : MenuEntry(form, std::move(name), {}) {}
+};
+
 struct Menu {
     MenuEntry* entry = nullptr;  // null: a line between entries
     std::vector<Menu> below = {};
@@ -174,6 +180,8 @@ struct MainScreen : WindowForm {
                                           "RTCL ( ver 4.30 以降 ) ＊．log ファイルを選ぶ"};
     MenuEntry mnu_rtcl_new4{*this, "mnu_rtcl_new4", "RTCL ( ver 4.30 より前 ) => txt , all 作成"};
     MenuEntry mnu_rtcl_new430{*this, "mnu_rtcl_new430", "RTCL ( ver 4.30 以降 ) => txt , all 作成"};
+    MenuEntry mnuRecentHead{*this, "mnuRecentHead", "最近のログ"};
+    ControlArray<RecentEntry, 8> mnuRecent{*this, "mnuRecent"};
     MenuEntry mnuMake_z2a{*this, "mnuMake_z2a", "＊．zLo  => ＊．all 作成 "};
     MenuEntry mnuDisp_z2a{*this, "mnuDisp_z2a", "＊．zLo => ＊．all 表示"};
     MenuEntry mnuDisp_log2a{*this, "mnuDisp_log2a", "＊．log => ＊．all 表示"};

@@ -5,6 +5,7 @@
 #include "app/chosen_log.h"
 #include "app/contest_choice.h"
 #include "app/option_handlers.h"
+#include "app/recent_logs.h"
 #include "app/remark_slot_settings.h"
 #include "app/source_ranks.h"
 #include "common/file_path.h"
@@ -211,6 +212,7 @@ void Form_Load(Program& program) {
         Form_Load_3(program);
         Form_Load_4(program);
         check_masters(program);
+        load_recent_logs(program);
     });
 }
 
@@ -229,6 +231,7 @@ void get_hdb_name_bas(Program& program) {
     enter_procedure(program.trace, "Public Sub get_hdb_name_bas()", [&] {
         constexpr Count shown_bytes = 6;
         const FilePath database = split_path(program.settings.environment.hamlog_hdb_dir);
+        program.disk.protect_log_book(program.settings.environment.hamlog_hdb_dir);
         if (database.name.empty()) {
             return;
         }

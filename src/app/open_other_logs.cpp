@@ -5,6 +5,7 @@
 
 #include "app/contest_choice.h"
 #include "app/log_opening.h"
+#include "app/open_text_log.h"
 #include "app/read_zlo_head.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
@@ -12,6 +13,7 @@
 #include "readers/adif.h"
 #include "readers/cabrillo.h"
 #include "readers/ctestwin.h"
+#include "readers/kind_of_log.h"
 #include "readers/rtcl_log.h"
 #include "readers/zlo_to_all.h"
 
@@ -41,23 +43,27 @@ constexpr PublicForm adif{
     is_adif,         "ADIF ﾌｧｲﾙではありません！",   count_in_name_ADIF,
 };
 
-void open_public_form(Program& program, const PublicForm& form) {
+void open_public_form(Program& program, const PublicForm& form, const std::string& path) {
+    if (path.empty()) {
+        ask_for_dat_file(program.screen);
+        return;
+    }
+    if (!has_backslash(path)) {
+        return;
+    }
+    take_log(program, path);
+    if (!form.is_one(program.stage(), path)) {
+        refuse_log(program, form.refusal);
+        return;
+    }
+    accept_log(program, form.kind);
+    show_record_count(program, form.count(program.stage(), path), "件");
+}
+
+void choose_public_form(Program& program, const PublicForm& form) {
     enter_procedure(program.trace, form.procedure, [&] {
-        const std::string path = program.person.choose_file({.filter = std::string(form.filter)});
-        if (path.empty()) {
-            ask_for_dat_file(program.screen);
-            return;
-        }
-        if (!has_backslash(path)) {
-            return;
-        }
-        take_log(program, path);
-        if (!form.is_one(program.stage(), path)) {
-            refuse_log(program, form.refusal);
-            return;
-        }
-        accept_log(program, form.kind);
-        show_record_count(program, form.count(program.stage(), path), "件");
+        open_public_form(program, form,
+                         program.person.choose_file({.filter = std::string(form.filter)}));
     });
 }
 
@@ -75,12 +81,12 @@ void open_zlo(Program& program, const std::string& path) {
     }
 }
 
-void open_rtcl(Program& program, RtclForm form, InputKind kind, std::string_view unit) {
-    const std::string path =
-        program.person.choose_file(rtcl_dialog(form, program.settings.environment.all_dir));
+void open_rtcl(Program& program, RtclForm form, const std::string& path) {
     if (!has_backslash(path)) {
         return;
     }
+    const bool old_form = form == RtclForm::before_430;
+    const InputKind kind = old_form ? InputKind::log_v4 : InputKind::log_v430;
     take_log(program, path);
     program.log.f_type = kind;
     const RtclCheck check = chk_log(program.stage(), path, form);
@@ -89,18 +95,43 @@ void open_rtcl(Program& program, RtclForm form, InputKind kind, std::string_view
         program.screen.enable_start(false);
         return;
     }
-    show_record_count(program, check.records, unit);
+    show_record_count(program, check.records, old_form ? "件" : " 件");
     accept_log(program, kind);
+}
+
+std::string choose_rtcl(Program& program, RtclForm form) {
+    return program.person.choose_file(rtcl_dialog(form, program.settings.environment.all_dir));
+}
+
+void open_lg8(Program& program, const std::string& path) {
+    // How long the converter is waited for before its count is read.
+    constexpr std::chrono::milliseconds patience{200};
+    if (path.empty()) {
+        return;
+    }
+    if (!is_lg8_name(path)) {
+        program.person.show({.text = "正しいファイル名を指定して下さい。"});
+        return;
+    }
+    const std::string& strPath = program.paths.strPath;
+    static_cast<void>(write_lg8bridge_ini(program.disk, strPath, {path, program.lg8_qso_count}));
+    program.processes.start(strPath + std::string(lg8bridge_exe));
+    program.processes.sleep(patience);
+    program.lg8_qso_count = read_lg8bridge_ini(program.disk, strPath).qso_su_str;
+    take_log(program, path);
+    program.screen.lblIn_rec.caption = program.lg8_qso_count + " 件";
+    program.log.record_count = program.lg8_qso_count;
+    accept_log(program, InputKind::lg8);
 }
 
 }  // namespace
 
 void FileOpen_cbr(Program& program) {
-    open_public_form(program, cabrillo);
+    choose_public_form(program, cabrillo);
 }
 
 void FileOpen_ADIF(Program& program) {
-    open_public_form(program, adif);
+    choose_public_form(program, adif);
 }
 
 void mnuOpen_z_Click(Program& program) {
@@ -120,38 +151,22 @@ void mnuOpen_z_set_Click(Program& program) {
 }
 
 void FileOpen_rtcl_log_set_new4(Program& program) {
-    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new4()",
-                    [&] { open_rtcl(program, RtclForm::before_430, InputKind::log_v4, "件"); });
+    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new4()", [&] {
+        open_rtcl(program, RtclForm::before_430, choose_rtcl(program, RtclForm::before_430));
+    });
 }
 
 void FileOpen_rtcl_log_set_new430(Program& program) {
-    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new430()",
-                    [&] { open_rtcl(program, RtclForm::from_430, InputKind::log_v430, " 件"); });
+    enter_procedure(program.trace, "Private Sub FileOpen_rtcl_log_set_new430()", [&] {
+        open_rtcl(program, RtclForm::from_430, choose_rtcl(program, RtclForm::from_430));
+    });
 }
 
 void mnuOpen_Ctestwin_lg8_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuOpen_Ctestwin_lg8_Click()", [&] {
-        // How long the converter is waited for before its count is read.
-        constexpr std::chrono::milliseconds patience{200};
-        const std::string path = program.person.choose_file(
-            {.title = "ファイルを開く", .filter = "Ctestwin lg8 ﾌｧｲﾙ ( *.lg8 )|*.lg8"});
-        if (path.empty()) {
-            return;
-        }
-        if (!is_lg8_name(path)) {
-            program.person.show({.text = "正しいファイル名を指定して下さい。"});
-            return;
-        }
-        const std::string& strPath = program.paths.strPath;
-        static_cast<void>(
-            write_lg8bridge_ini(program.disk, strPath, {path, program.lg8_qso_count}));
-        program.processes.start(strPath + std::string(lg8bridge_exe));
-        program.processes.sleep(patience);
-        program.lg8_qso_count = read_lg8bridge_ini(program.disk, strPath).qso_su_str;
-        take_log(program, path);
-        program.screen.lblIn_rec.caption = program.lg8_qso_count + " 件";
-        program.log.record_count = program.lg8_qso_count;
-        accept_log(program, InputKind::lg8);
+        open_lg8(program,
+                 program.person.choose_file(
+                     {.title = "ファイルを開く", .filter = "Ctestwin lg8 ﾌｧｲﾙ ( *.lg8 )|*.lg8"}));
     });
 }
 
@@ -160,6 +175,28 @@ void mnuMake_z2a_Click(Program& program) {
         make_z2a(program.stage(), program.log.in_name);
         program.screen.enable_z2a_viewers(true);
         program.screen.lblCFG.show("z2a ﾌｧｲﾙ  作 成 終 了", colours::blue);
+    });
+}
+
+void open_log(Program& program, const std::string& path) {
+    enter_procedure(program.trace, "Private Sub open_log()", [&] {
+        switch (kind_of_log(program.disk, path).value_or(InputKind::all)) {
+            case InputKind::cbr:
+                return open_public_form(program, cabrillo, path);
+            case InputKind::ADIF:
+                return open_public_form(program, adif, path);
+            case InputKind::zlo:
+                return open_zlo(program, path);
+            case InputKind::lg8:
+                return open_lg8(program, path);
+            case InputKind::log_v4:
+                return open_rtcl(program, RtclForm::before_430, path);
+            case InputKind::log_v430:
+                return open_rtcl(program, RtclForm::from_430, path);
+            case InputKind::all:
+            case InputKind::txt:
+                return open_text_log(program, path);
+        }
     });
 }
 

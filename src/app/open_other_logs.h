@@ -2,6 +2,8 @@
 // and Ctestwin, each by its own menu entries.
 #pragma once
 
+#include <string>
+
 #include "app/program.h"
 
 namespace veldrana {
@@ -21,6 +23,10 @@ void mnuOpen_Ctestwin_lg8_Click(Program& program);
 
 // A binary log of zLog as a text beside it.
 void mnuMake_z2a_Click(Program& program);
+
+// Opens a log that was named without a dialog, dropped on the window or opened before, the way that
+// its kind goes.
+void open_log(Program& program, const std::string& path);
 
 // The menu entry that opens logs of a kind.
 MenuEntry& open_entry(MainScreen& screen, InputKind kind);

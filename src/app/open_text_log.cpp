@@ -6,6 +6,7 @@
 #include "app/contest_choice.h"
 #include "app/log_opening.h"
 #include "app/option_handlers.h"
+#include "app/recent_logs.h"
 #include "common/file_path.h"
 #include "common/procedure.h"
 #include "common/text.h"
@@ -31,6 +32,8 @@ std::string start_of_file(Program& program, const std::string& path) {
     bytes.resize(file->read(bytes.data(), bytes.size()));
     return from_code_page(bytes);
 }
+
+}  // namespace
 
 void open_text_log(Program& program, const std::string& path) {
     ChosenLog& log = program.log;
@@ -63,10 +66,11 @@ void open_text_log(Program& program, const std::string& path) {
         screen.Option02.index = 0;
         screen.Option02.enable_all(true);
     }
+    if (log.accepted) {
+        note_recent_log(program, path);
+    }
     check_readiness(program);
 }
-
-}  // namespace
 
 void mnuOpen_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuOpen_Click()", [&] {

@@ -2,6 +2,7 @@
 // screen.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "app/program.h"
@@ -13,6 +14,8 @@ constexpr std::string_view not_a_text_log = "zlogのﾃｷｽﾄﾌｧｲﾙで�
 
 // A file dialog wherever the last one ended.
 void mnuOpen_Click(Program& program);
+// Opens a file that was chosen; an empty path: none was.
+void open_text_log(Program& program, const std::string& path);
 // A file dialog in the folder for these logs.
 void mnuOpen_all_txt_set_Click(Program& program);
 

@@ -10,6 +10,7 @@
 #include "app/option_handlers.h"
 #include "app/period_dialog.h"
 #include "app/program_end.h"
+#include "app/recent_logs.h"
 #include "app/rtcl_tool.h"
 #include "app/slot_handlers.h"
 #include "app/viewing.h"
@@ -76,6 +77,9 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.tool_make_ini, write_options);
     attach(screen.cmdDisp_dat2, cmdDisp_dat_Click);
     attach(screen.mnuGet_Value, mnuGet_Value_Click);
+    for (std::size_t i = 0; i < screen.mnuRecent.size(); ++i) {
+        screen.mnuRecent[i].Click = [this, i] { event([this, i] { mnuRecent_Click(*this, i); }); };
+    }
     attach_viewers(*this);
     attach_option_handlers(*this);
 }

@@ -7,8 +7,9 @@
 namespace veldrana {
 
 // Reads the log book and makes the history of the chosen rule, if there is a rule and the log book
-// is its source: with Check18 in any case, else if there is no history yet or the database was
-// written since. The period alone asks for no reading.
+// is its source: with Check18 in any case, else if there is no history yet or the database has
+// another time than the one that was noted before its last reading, whether that went well or not.
+// The period alone asks for no reading.
 void read_history(Program& program, const RunOptions& options);
 
 }  // namespace veldrana

@@ -11,7 +11,8 @@ std::size_t remove_matching(Disk& disk, std::string_view pattern, std::string_vi
     std::size_t removed = 0;
     for (const std::string& name : disk.names(pattern)) {
         const std::string path = folder + name;
-        if (keep.empty() || !disk.same_file(path, keep)) {
+        const bool kept = disk.is_protected(path) || (!keep.empty() && disk.same_file(path, keep));
+        if (!kept) {
             disk.remove(path);
             ++removed;
         }

@@ -96,8 +96,11 @@ class Disk {
     virtual void replace(std::string_view from, std::string_view to) = 0;
 
     // From now on this file, by whatever path it is reached, is not written, replaced or removed
-    // (failure 55). One file is protected at a time; an empty path protects none.
+    // (failure 55). One log is protected at a time, and one log book beside it; an empty path
+    // protects none.
     virtual void protect(std::string_view path) = 0;
+    virtual void protect_log_book(std::string_view path) = 0;
+    virtual bool is_protected(std::string_view path) = 0;
 
     // Whether two paths lead to one file, by whatever names; false if one is missing.
     virtual bool same_file(std::string_view one, std::string_view other) = 0;

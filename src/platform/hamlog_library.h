@@ -25,8 +25,8 @@ class HamlogLibrary {
     HamlogLibrary& operator=(const HamlogLibrary&) = delete;
     virtual ~HamlogLibrary() = default;
 
-    // Opens the file for its count of records; whether it could is not told. The count is 0 for a
-    // file that is none.
+    // Opens the file for its count of records; whether it could is not told. The program's own
+    // library counts none in a file that is no log book.
     virtual void dbf_open(std::string_view path) = 0;
     virtual std::int32_t dbf_rcount() = 0;
     virtual void dbf_close() = 0;

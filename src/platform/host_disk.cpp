@@ -1,6 +1,7 @@
 #include "platform/host_disk.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -467,12 +468,24 @@ void HostDisk::remove(std::string_view path) {
     }
 }
 
+bool HostDisk::is_protected(std::string_view path) {
+    const std::optional<HostPath> found = find(path);
+    return found && leads_to_protected(*found);
+}
+
+bool HostDisk::leads_to_protected(const HostPath& path) const {
+    const std::array<std::string_view, 2> paths{protected_log_, protected_log_book_};
+    return std::any_of(paths.begin(), paths.end(), [&](std::string_view protected_path) {
+        if (protected_path.empty()) {
+            return false;
+        }
+        const std::optional<HostPath> kept = find(protected_path);
+        return kept && !identity(*kept).empty() && identity(*kept) == identity(path);
+    });
+}
+
 void HostDisk::require_unprotected(const HostPath& path) const {
-    if (protected_.empty()) {
-        return;
-    }
-    const std::optional<HostPath> kept = find(protected_);
-    if (kept && !identity(*kept).empty() && identity(*kept) == identity(path)) {
+    if (leads_to_protected(path)) {
         throw RunTimeError(Failure::already_open);
     }
 }

@@ -41,7 +41,9 @@ class HostDisk : public Disk {
     LocalTime modified(std::string_view path) override;
     void remove(std::string_view path) override;
     void replace(std::string_view from, std::string_view to) override;
-    void protect(std::string_view path) override { protected_ = path; }
+    void protect(std::string_view path) override { protected_log_ = path; }
+    void protect_log_book(std::string_view path) override { protected_log_book_ = path; }
+    bool is_protected(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
     std::vector<DiskEntry> entries(std::string_view pattern) override;
@@ -72,12 +74,14 @@ class HostDisk : public Disk {
     // What find gives, or the failure that tells why there is nothing.
     HostPath require(std::string_view path) const;
 
-    // Failure 55 if the host path leads to the protected file.
+    bool leads_to_protected(const HostPath& path) const;
+    // Failure 55 if the host path leads to a protected file.
     void require_unprotected(const HostPath& path) const;
 
     std::map<char, HostPath> drives_;
     HostPath program_folder_;
-    std::string protected_;
+    std::string protected_log_;
+    std::string protected_log_book_;
 
     // The files that are open, by what the host tells them apart with; shared with them, so that a
     // file may outlive the disk.

@@ -64,7 +64,8 @@ class InstalledHamlogLibrary : public HamlogLibrary {
         return THW_read_(log_.data(), record, way);
     }
     std::string_view ThwString(int field) override {
-        buffer_.fill('\0');
+        buffer_.front() = '\0';
+        buffer_.back() = '\0';
         ThwString_(buffer_.data(), log_.data(), field);
         text_.clear();
         append_from_code_page(text_, until_nul({buffer_.data(), buffer_.size()}));

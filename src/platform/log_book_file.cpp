@@ -16,7 +16,8 @@
 namespace veldrana {
 namespace {
 
-constexpr std::int32_t most_records = std::numeric_limits<std::int32_t>::max();
+// One less than the largest number, so that one may count past the last record.
+constexpr std::int32_t most_records = std::numeric_limits<std::int32_t>::max() - 1;
 
 // --- tables ---
 
@@ -364,17 +365,16 @@ std::optional<std::string> first_line(Disk& disk, std::string_view path) {
     }
 }
 
-std::unique_ptr<LogBookFile> open_text(Disk& disk, std::string_view path) {
+// Whether a file is a text of rows, or of blank lines alone. No table is: its first line, as far as
+// one can say so, holds a NUL or no ten columns.
+bool is_text(Disk& disk, std::string_view path) {
     constexpr std::size_t fewest_columns = 10;
     const std::optional<std::string> line = first_line(disk, path);
     if (!line || line->find('\0') != std::string::npos) {
-        return nullptr;
+        return false;
     }
-    const bool no_records = trim(*line).empty();
-    if (!no_records && split_quoted_fields(from_code_page(*line)).size() < fewest_columns) {
-        return nullptr;
-    }
-    return std::make_unique<LogBookText>(disk, path);
+    return trim(*line).empty() ||
+           split_quoted_fields(from_code_page(*line)).size() >= fewest_columns;
 }
 
 }  // namespace
@@ -383,8 +383,11 @@ std::unique_ptr<LogBookFile> open_log_book(Disk& disk, std::string_view path) {
     if (!disk.file_exists(path)) {
         return nullptr;
     }
-    const bool table = is_table(ForwardBytes(disk, path).take(1));
-    return table ? open_table(disk, path) : open_text(disk, path);
+    // Asked first: a text may begin with a table's first byte, which is that of many katakana.
+    if (is_text(disk, path)) {
+        return std::make_unique<LogBookText>(disk, path);
+    }
+    return is_table(ForwardBytes(disk, path).take(1)) ? open_table(disk, path) : nullptr;
 }
 
 void OwnHamlogLibrary::dbf_open(std::string_view path) {

@@ -1,14 +1,15 @@
 // Owns the forms in which the program reads a log book by itself, told apart by what the file
-// holds, never by its name; docs/formats/log-book.md tells them to operators.
+// holds, never by its name; docs/formats/log-book.md tells them.
+//
+// A text: a contact a line, in quoted fields (common/quoted_fields.h), whose first 14 columns are
+// the fields; its first line that is not blank has ten columns at least and no NUL. Blank lines are
+// no records.
 //
 // A table: first byte 0x03 or 0x83, the count of records in bytes 4 to 7, the header's length in 8
 // and 9, a record's length in 10 and 11, low byte first; from byte 32 on descriptors of 32 bytes,
 // the name in their first 11 bytes and the width in byte 16, up to a byte 0x0D. A record begins
 // with a mark, "*" for a deleted one, which has empty fields. With columns CALLS and IGN it is the
 // log book's own table; of any other the first 14 columns are the fields.
-//
-// A text: a contact a line, in quoted fields (common/quoted_fields.h), whose first 14 columns are
-// the fields. Blank lines are no records.
 #pragma once
 
 #include <cstdint>

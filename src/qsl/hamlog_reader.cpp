@@ -137,13 +137,13 @@ class LogBookReading {
 
     void take_period() {
         stage_.trace.write(request_.End_Date);
-        std::string_view end = request_.End_Date;
-        if (end.empty()) {
-            end = request_.End_Date_bak;
-            stage_.trace.write("     End_Date = End_Date_bak  " + std::string(end));
+        End_Date_ = request_.End_Date;
+        if (End_Date_.empty()) {
+            End_Date_ = request_.End_Date_bak;
+            stage_.trace.write("     End_Date = End_Date_bak  " + std::string(End_Date_));
         }
         first_day_ = leading_number(request_.Start_Date);
-        last_day_ = leading_number(end);
+        last_day_ = leading_number(End_Date_);
     }
 
     // The reader of cards sent tells more of itself than the others; kept.
@@ -155,7 +155,7 @@ class LogBookReading {
 
     void trace_period(std::int32_t count) {
         trace_more("     Start_Date = ", request_.Start_Date);
-        trace_more("     End_Date = ", request_.End_Date);
+        trace_more("     End_Date = ", End_Date_);
         trace_more("     ", request_.hamlog_hdb_dir);
         trace_more("     recno = ", std::to_string(count));
     }
@@ -165,8 +165,12 @@ class LogBookReading {
         const std::string path = std::string(request_.drive_path).append(selected_records_file);
         TextOutput output = stage_.open_output(path);
         QuotedLine line;
-        for (std::int32_t record = 1; record <= count; ++record) {
-            trace_more("     ", std::to_string(record));
+        // A library may count up to the largest number there is.
+        for (std::int64_t number = 1; number <= count; ++number) {
+            const auto record = static_cast<std::int32_t>(number);
+            if (kind_ == HistoryKind::sent) {
+                stage_.trace.write("     " + std::to_string(record));
+            }
             library_.THW_read(record, HamlogLibrary::by_number);
             fetch(library_, record_);
             if (in_period() && selects()) {
@@ -216,6 +220,7 @@ class LogBookReading {
     HamlogLibrary& library_;
     HistoryKind kind_;
     const LogBookRequest& request_;
+    std::string_view End_Date_;  // the one that counts
     std::uint64_t first_day_ = 0;
     std::uint64_t last_day_ = 0;
     Record record_;  // the one under way

@@ -141,6 +141,7 @@ bool chk_qso_1(const Likeness& likeness, const BandMode& contact, std::string_vi
 }
 
 void QsoHistory::sum_bak_4_bas(const Stage& stage) {
+    stage.trace.write("Private Sub sum_bak_4_bas()");
     codes_.clear();
     TextInput input = stage.open_input(history_file_);
     RowReader station(input, 2);

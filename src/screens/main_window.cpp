@@ -15,7 +15,6 @@
 #include "app/open_other_logs.h"
 #include "app/program_end.h"
 #include "app/slot_lengths.h"
-#include "readers/kind_of_log.h"
 #include "screens/qt_person.h"
 #include "screens/slot_widgets.h"
 
@@ -435,12 +434,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     }
     const QString file = event->mimeData()->urls().front().toLocalFile();
     event->acceptProposedAction();
-    pump_.run([&] {
-        const std::string path = person->program_path(file);
-        const auto kind = kind_of_log(program_.disk, path);
-        person->choose_next(path);
-        open_entry(screen_, kind.value_or(InputKind::all)).press();
-    });
+    pump_.run([&] { program_.event([&] { open_log(program_, person->program_path(file)); }); });
 }
 
 void MainWindow::look_under_pointer() {

@@ -73,9 +73,6 @@ Answer QtPerson::show(const MessageBox& box) {
 }
 
 std::string QtPerson::choose_file(const FileDialog& dialog) {
-    if (!next_.empty()) {
-        return std::exchange(next_, {});
-    }
     QFileDialog shown(front(),
                       to_qt(dialog.title.empty() ? "ファイルを開く" : dialog.title).trimmed());
     shown.setNameFilters(name_filters(dialog.filter));

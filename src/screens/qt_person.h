@@ -17,9 +17,6 @@ class QtPerson : public Person {
     // What boxes and dialogs stand in front of; null: nothing.
     void set_parent(QWidget* parent) { parent_ = parent; }
 
-    // The next file dialog is not shown and chooses this, as a log that was dropped.
-    void choose_next(std::string path) { next_ = std::move(path); }
-
     // A path of the host as the program writes it.
     std::string program_path(const QString& host) const;
 
@@ -34,7 +31,6 @@ class QtPerson : public Person {
     HostDisk& disk_;
     Pump& pump_;
     QWidget* parent_ = nullptr;
-    std::string next_;
     QString last_folder_;
 };
 

@@ -182,8 +182,18 @@ void MemoryDisk::protect(std::string_view path) {
     protected_ = key_of(path);
 }
 
+void MemoryDisk::protect_log_book(std::string_view path) {
+    protected_log_book_ = key_of(path);
+}
+
+bool MemoryDisk::is_protected(std::string_view path) {
+    const std::string key = key_of(path);
+    return !key.empty() && (key == protected_ || key == protected_log_book_);
+}
+
 void MemoryDisk::require_unprotected(std::string_view path) const {
-    if (!protected_.empty() && key_of(path) == protected_) {
+    const std::string key = key_of(path);
+    if (!key.empty() && (key == protected_ || key == protected_log_book_)) {
         throw RunTimeError(Failure::already_open);
     }
 }
@@ -318,6 +328,14 @@ void FailingDisk::remove(std::string_view path) {
 void FailingDisk::replace(std::string_view from, std::string_view to) {
     count_operation();
     disk_.replace(from, to);
+}
+
+void FailingDisk::protect_log_book(std::string_view path) {
+    disk_.protect_log_book(path);
+}
+
+bool FailingDisk::is_protected(std::string_view path) {
+    return disk_.is_protected(path);
 }
 
 void FailingDisk::protect(std::string_view path) {

@@ -36,6 +36,8 @@ class MemoryDisk : public Disk {
     void remove(std::string_view path) override;
     void replace(std::string_view from, std::string_view to) override;
     void protect(std::string_view path) override;
+    void protect_log_book(std::string_view path) override;
+    bool is_protected(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
     std::vector<DiskEntry> entries(std::string_view pattern) override;
@@ -59,6 +61,7 @@ class MemoryDisk : public Disk {
     std::map<std::string, std::shared_ptr<File>> files_;  // by their keys
     std::set<std::string> folders_;
     std::string protected_;
+    std::string protected_log_book_;
 };
 
 // Passes everything on to another disk, but for one operation.
@@ -83,6 +86,8 @@ class FailingDisk : public Disk {
     void remove(std::string_view path) override;
     void replace(std::string_view from, std::string_view to) override;
     void protect(std::string_view path) override;
+    void protect_log_book(std::string_view path) override;
+    bool is_protected(std::string_view path) override;
     bool same_file(std::string_view one, std::string_view other) override;
     std::vector<std::string> names(std::string_view pattern) override;
     std::vector<DiskEntry> entries(std::string_view pattern) override;

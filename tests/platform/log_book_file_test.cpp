@@ -17,6 +17,7 @@
 
 #include "common/run_time_error.h"
 #include "common/text.h"
+#include "platform/code_page_932.h"
 #include "platform/host_disk.h"
 #include "tests/doubles/log_book_table.h"
 #include "tests/doubles/memory_disk.h"
@@ -24,6 +25,8 @@
 
 namespace veldrana {
 namespace {
+
+using namespace std::string_literals;
 
 using testing::AllOf;
 using testing::Each;
@@ -455,6 +458,19 @@ TEST_F(LogBookFileTest, ANulEndsAFieldOfATextToo) {
         records_of(quoted_row(fourteen_columns) + quoted_row(columns));
     ASSERT_THAT(records, SizeIs(2));
     EXPECT_EQ(records[1], with_call("JA2ZZB"));
+}
+
+TEST_F(LogBookFileTest, TextMayBeginWithATablesFirstByte) {
+    // Katakana begin with 0x83.
+    for (const std::string& heading : {"コール,日付,時刻,His,My,Freq,Mode,Code,GL,QSL\r\n"s,
+                                       "ア,2,3,4,5,6,7,8,9,10,11,12,13,14\r\n"s}) {
+        disk.put(path, to_code_page(heading) + "JA1ZZA,24/05/03,,,,7,CW,,,J* \r\n");
+        const std::unique_ptr<LogBookFile> file = open_log_book(disk, path);
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(file->count(), 2);
+        ASSERT_TRUE(file->read(2));
+        EXPECT_EQ(file->field(1), "JA1ZZA");
+    }
 }
 
 TEST_F(LogBookFileTest, WhatTheFileHoldsTellsTheFormsApartNotItsName) {

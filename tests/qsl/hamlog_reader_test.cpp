@@ -537,8 +537,7 @@ TEST_F(HamlogReader, SecondReaderTellsMore) {
     EXPECT_EQ(trim(tail[1]), "2");
     EXPECT_EQ(trim(tail[2]), "3");
     // Two records and two sentinels, which a stream that was read to its end counts as one more.
-    EXPECT_THAT(tail[3], StartsWith("bak_1.txt"));
-    EXPECT_THAT(tail[3], testing::AnyOf(testing::EndsWith("4"), testing::EndsWith("5")));
+    EXPECT_EQ(tail[3], "bak_1.txt の件数5");
     EXPECT_LT(trace_place("recno = 3"), trace_place("HamlogOpen 成功"));
 }
 

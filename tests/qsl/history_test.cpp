@@ -289,7 +289,7 @@ TEST_F(HistoryTest, MissingFolderOfTheHistoryIsAFailureOfTheSumming) {
 
 TEST_F(HistoryTest, HistoryOfUnderTenBytesIsAFailure) {
     failing.told_size = 9;
-    EXPECT_NE(failure_of([&] { history_of(sentinel_pairs); }), 0);
+    EXPECT_EQ(failure_of([&] { history_of(sentinel_pairs); }), 51);
     EXPECT_THAT(trace.lines,
                 Contains(testing::AllOf(testing::StartsWith("エラー発生 ：　ファイル不良"),
                                         HasSubstr(history_file))));
