@@ -402,6 +402,21 @@ TEST_F(OtherLogsRun, ContestWithoutCodesThatWasWavedThroughIsConvertedWithoutThe
     EXPECT_THAT(text("C:\\log\\zlog_2.txt"), HasSubstr("\"\",\"\",\"104M\""));
 }
 
+// A flag of no search: the data file is there and gives nothing.
+TEST_F(OtherLogsRun, TelecomPartyGetsNoCodes) {
+    kit.put_text(program.paths.contest_name_csv,
+                 "No,Cfg_name,Dat_name,Con_name,Code_flag,Con_no_1,Con_no_2,\r\n"
+                 "1,t.cfg,tele.dat,テレコムＱＳＯパーティー,00,局名,,\r\n");
+    kit.put_text("C:\\zLog\\tele.dat", "heading\r\n104M       常呂郡\r\n");
+    kit.memory.put("C:\\log\\t.zlo", sample_zlo("テレコムＱＳＯパーティー"));
+    screen.Option02.index = 2;
+    screen.Option04.index = 1;
+    run(InputKind::zlo, "C:\\log\\t.zlo");
+    EXPECT_THAT(kit.person.boxes, IsEmpty());
+    EXPECT_THAT(text("C:\\log\\zlog_2.txt"), HasSubstr("\"\",\"\",\"104M\""));
+    EXPECT_THAT(text("C:\\log\\t_hjn.csv"), HasSubstr("\"テレコムＱＳＯパーティー\",\"\",\"8\""));
+}
+
 TEST_F(OtherLogsRun, HeadingAloneEndsInTheReport) {
     kit.memory.put("C:\\log\\h.zlo", zlo_heading(""));
     open(InputKind::zlo, "C:\\log\\h.zlo");
