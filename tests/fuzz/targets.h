@@ -17,4 +17,14 @@ std::span<const FuzzTarget> fuzz_targets();
 
 void fuzz_log_book(std::string_view bytes);
 
+void fuzz_zlog_all(std::string_view bytes);
+void fuzz_zlog_txt(std::string_view bytes);
+void fuzz_cabrillo(std::string_view bytes);
+void fuzz_adif(std::string_view bytes);
+void fuzz_contest_dialog(std::string_view bytes);
+
+void fuzz_zlo(std::string_view bytes);
+void fuzz_rtcl_v4(std::string_view bytes);
+void fuzz_rtcl_v430(std::string_view bytes);
+
 }  // namespace veldrana
