@@ -528,6 +528,24 @@ TEST_F(DialogOfTheMenu, MastersThatCanBeUsedNowAreTakenUp) {
     EXPECT_EQ(stored_entry("yubin_mas_dir"), "C:\\mas\\");
 }
 
+// The switch of the master is the run's, its path is the file's.
+TEST_F(DialogOfTheMenu, TickThatIsNotSavedLastsForTheRun) {
+    fill_in([](frmConfig& form) {
+        form.chkNo_qth.value = false;
+        form.cmdOK.press();
+    });
+    press();
+    EXPECT_TRUE(screen.Check14.enabled);
+    EXPECT_EQ(environment().qth_mas_dir, unused);
+    EXPECT_EQ(stored_entry("qth_mas_dir"), unused);
+    fill_in([](frmConfig& form) {
+        EXPECT_TRUE(form.chkNo_qth.value);
+        form.cmdOK.press();
+    });
+    press();
+    EXPECT_FALSE(screen.Check14.enabled);
+}
+
 TEST_F(DialogOfTheMenu, PostalFilesThatAreMissingAreTold) {
     fill_in([](frmConfig& form) {
         form.chkNo_yubin.value = false;
