@@ -12,6 +12,9 @@ class NoPerson : public Person {
   public:
     Answer show(const MessageBox& /*box*/) override { return Answer::ok; }
     std::string choose_file(const FileDialog& /*dialog*/) override { return {}; }
+    std::string choose_folder(std::string_view /*title*/, std::string_view /*start*/) override {
+        return {};
+    }
     void show_modal(WindowForm& form) override { form.window.visible = false; }
     void pending_events() override {}
 };

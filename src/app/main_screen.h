@@ -188,6 +188,7 @@ struct MainScreen : WindowForm {
     MenuEntry mnuOpenDat_mnu{*this, "mnuOpenDat_mnu", "個別DATﾌｧｲﾙを指定　（ 手動 ）"};
     MenuEntry mnuOpenDat_semi{*this, "mnuOpenDat_semi", "個別DATﾌｧｲﾙを指定　（ 半自 ）"};
     MenuEntry make_ini{*this, "make_ini", "ini 作成"};
+    MenuEntry mnuConfig{*this, "mnuConfig", "環境設定"};
     MenuEntry mnuOpen_con_n{*this, "mnuOpen_con_n", "contestj_n.csv を開く"};
     MenuEntry mnuFile{*this, "mnuFile", "ファイル"};
     MenuEntry mnuDisp{*this, "mnuDisp", "表示"};

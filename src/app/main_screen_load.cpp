@@ -58,18 +58,16 @@ void read_settings(SettingsStore& settings) {
 // What the environment has no master for is switched off.
 void disable_unused_masters(Program& program) {
     MainScreen& screen = program.screen;
-    const EnvironmentSettings& environment = program.settings.environment;
-    const bool name_mas = is_used(environment.name_mas_dir);
-    screen.Check03.enabled = name_mas;
-    screen.cmdCount.enabled = name_mas;
-    const bool qth_mas = is_used(environment.qth_mas_dir);
-    screen.lblNo_qth_mas.visible = !qth_mas;
+    const MastersInUse& in_use = program.settings.masters_in_use;
+    screen.Check03.enabled = in_use.name_mas;
+    screen.cmdCount.enabled = in_use.name_mas;
+    screen.lblNo_qth_mas.visible = !in_use.qth_mas;
     for (CheckBox* const box : {&screen.Check14, &screen.Check1, &screen.Check4, &screen.Check5,
                                 &screen.Check6, &screen.Check7}) {
-        box->enabled = qth_mas;
+        box->enabled = in_use.qth_mas;
     }
     constexpr std::size_t postal_master = 3;
-    screen.Option02.enable(postal_master, is_used(environment.yubin_mas_dir));
+    screen.Option02.enable(postal_master, in_use.yubin_mas);
 }
 
 void ask_for_log(Program& program) {
@@ -148,9 +146,7 @@ void show_member_search(Program& program) {
     screen.Check33.value = stored_number(options.Not_JARL_flag) != 0;
     set_if_empty(options.QSL_moji, default_member_mark);
     screen.txtQSL_moji.text = options.QSL_moji;
-    screen.lblMyCalls.caption = program.settings.environment.MyCalls;
-    // Not the password itself: others look at the screen too.
-    screen.lblPassWord.caption = std::string(length(program.settings.environment.PassWords), '*');
+    show_operator(program);
 }
 
 void show_user_texts(MainScreen& screen, const OptionSettings& options) {
@@ -225,6 +221,27 @@ void show_main_screen(Program& program) {
     chk_disp_top_sstab(program.screen);
     chk_disp_top_sstab_2(program.screen);
     program.start.reached = Start::main_screen;
+}
+
+void take_up_environment(Program& program, const EnvironmentSettings& before) {
+    const EnvironmentSettings& environment = program.settings.environment;
+    get_hdb_name_bas(program);
+    show_log_book(program);
+    disable_unused_masters(program);
+    Check14_Click(program);
+    show_operator(program);
+    if (environment.name_mas_dir != before.name_mas_dir ||
+        environment.yubin_mas_dir != before.yubin_mas_dir) {
+        check_masters(program);
+    }
+    program.start.reached = Start::main_screen;
+}
+
+void show_operator(Program& program) {
+    const EnvironmentSettings& environment = program.settings.environment;
+    program.screen.lblMyCalls.caption = environment.MyCalls;
+    // Not the password itself: others look at the screen too.
+    program.screen.lblPassWord.caption = std::string(length(environment.PassWords), '*');
 }
 
 void get_hdb_name_bas(Program& program) {

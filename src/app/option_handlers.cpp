@@ -68,14 +68,6 @@ void show_and_store(Program& program, const GroupOption& option) {
 
 // --- what some do besides ---
 
-void Check14_Click(Program& program) {
-    MainScreen& screen = program.screen;
-    for (CheckBox* const box :
-         {&screen.Check4, &screen.Check5, &screen.Check6, &screen.Check7, &screen.Check16}) {
-        box->enabled = screen.Check14.value.get();
-    }
-}
-
 void Check8_Click(Program& program) {
     MainScreen& screen = program.screen;
     for (CheckBox* const box :
@@ -398,6 +390,14 @@ void run_option_handlers(Program& program) {
     select_stored(program, "Option22");
     for (const std::string_view name : {"Option2", "Option22", "Option4"}) {
         click(name);
+    }
+}
+
+void Check14_Click(Program& program) {
+    MainScreen& screen = program.screen;
+    for (CheckBox* const box :
+         {&screen.Check4, &screen.Check5, &screen.Check6, &screen.Check7, &screen.Check16}) {
+        box->enabled = screen.Check14.value.get();
     }
 }
 

@@ -21,6 +21,9 @@ void Option08_set(Program& program);
 // stored.
 void run_option_handlers(Program& program);
 
+// Enables what the QTH master gives while that is in use.
+void Check14_Click(Program& program);
+
 // Enables what depends on the choice of the code source, and the start buttons.
 void Op02_Chk(Program& program);
 

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "app/config_dialog.h"
 #include "app/contest_choice.h"
 #include "app/control_list.h"
 #include "app/conversion_driver.h"
@@ -72,6 +73,7 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.cmdDisp_dat, cmdDisp_dat_Click);
     attach(screen.cmdSet_UserTxt_A, cmdSet_UserTxt_A_Click);
     attach(screen.cmdSet_UserTxt_B, cmdSet_UserTxt_B_Click);
+    attach(screen.mnuConfig, mnuConfig_Click);
     const auto write_options = [](Program& program) { program.settings.write_Veldrana_new_ini(); };
     attach(screen.make_ini, write_options);
     attach(screen.tool_make_ini, write_options);

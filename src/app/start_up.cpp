@@ -32,7 +32,9 @@ void make_missing_folder(Disk& disk, const std::string& path) {
 
 void open_trace_log(Program& program) {
     TraceLog& trace = program.trace;
-    trace.open(std::make_unique<TextOutput>(program.disk, trace.path()));
+    // The environment is copied into it, with the password.
+    trace.open(
+        std::make_unique<TextOutput>(program.disk, trace.path(), WriteMode::replace_for_owner));
     trace.write("ver : " + std::string(program_version));
     trace.write("Main()");
     trace.write("strPath : " + program.paths.strPath);
@@ -260,16 +262,7 @@ void Main2_bas_2(Program& program) {
 
 void trace_profile_files(Program& program, std::string_view moment) {
     for (const std::string_view name : {cfg_ini, new_ini, snapshot_ini}) {
-        if (!program.settings.exists(name)) {
-            continue;
-        }
-        program.trace.write("=========  " + std::string(name) + "  ==== " + std::string(moment) +
-                            " =======");
-        TextInput file(program.disk, program.settings.path(name));
-        for (std::string_view line; file.next_line(line);) {
-            program.trace.write(line);
-        }
-        program.trace.write(std::string(32, '='));
+        trace_profile_file(program.stage(), program.settings, name, moment);
     }
 }
 

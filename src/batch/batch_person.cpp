@@ -31,4 +31,8 @@ std::string BatchPerson::choose_file(const FileDialog& /*dialog*/) {
     return file_;
 }
 
+std::string BatchPerson::choose_folder(std::string_view /*title*/, std::string_view /*start*/) {
+    return {};
+}
+
 }  // namespace veldrana

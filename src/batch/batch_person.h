@@ -24,6 +24,8 @@ class BatchPerson : public Person {
 
     Answer show(const MessageBox& box) override;
     std::string choose_file(const FileDialog& dialog) override;
+    // None.
+    std::string choose_folder(std::string_view title, std::string_view start) override;
     // What is done with the next forms.
     void fill_in(std::function<void(WindowForm&)> use) { use_ = std::move(use); }
 

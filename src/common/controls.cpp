@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "common/run_time_error.h"
+#include "common/text.h"
 
 namespace veldrana {
 namespace {
@@ -118,6 +119,10 @@ void OptionGroup::enable_all(bool on) {
 
 TextBox::TextBox(Form& form, std::string name, std::string initial)
     : Control(form, std::move(name)), text(*this, std::move(initial)) {}
+
+void TextBox::move_caret_to_end() {
+    caret = length(text.get());
+}
 
 bool TextBox::enter(std::string_view value) {
     text = std::string(value);

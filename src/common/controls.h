@@ -239,6 +239,12 @@ class TextBox : public Control {
   public:
     TextBox(Form& form, std::string name, std::string initial = {});
     Property<std::string> text;  // on_change is its Change
+    // The view shows a mark in the place of each character.
+    Property<bool> hidden_text{*this, false};
+    // How many characters stand in front of the caret; the view tells it where the person put it.
+    Property<std::size_t> caret{*this, 0};
+
+    void move_caret_to_end();
 
     bool enter(std::string_view value) override;
 };

@@ -46,6 +46,10 @@ class Person {
     // The full path of the chosen file as the program writes paths; empty if none was chosen.
     virtual std::string choose_file(const FileDialog& dialog) = 0;
 
+    // The full path of the chosen folder, with or without a backslash at its end; empty if none was
+    // chosen. The dialog starts in a folder; an empty one is the current folder.
+    virtual std::string choose_folder(std::string_view title, std::string_view start) = 0;
+
     // Shows a form until its window is no longer visible. Who has no screen answers it by rule.
     virtual void show_modal(WindowForm& form) = 0;
 

@@ -110,6 +110,51 @@ std::string shift_letters(std::string_view text, char first, char last, char32_t
     return shifted;
 }
 
+// The full-width forms of U+FF61 to U+FF9F, in their order.
+constexpr std::u32string_view wide_katakana =
+    U"。「」、・ヲァィゥェォャュョッーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホ"
+    U"マミムメモヤユヨラリルレロワン゛゜";
+constexpr char32_t first_narrow_katakana = 0xFF61;
+constexpr char32_t voiced_mark = 0xFF9E;
+constexpr char32_t half_voiced_mark = 0xFF9F;
+// Each stands one, or two, behind the one that it is made of.
+constexpr std::u32string_view voiced_katakana = U"ガギグゲゴザジズゼゾダヂヅデドバビブベボ";
+constexpr std::u32string_view half_voiced_katakana = U"パピプペポ";
+
+// Nothing is appended if the character has no half-width form.
+bool append_narrow(std::string& text, char32_t code) {
+    constexpr char32_t to_wide_ascii = 0xFEE0;
+    if (code >= U'！' && code <= U'～') {
+        append_character(text, code - to_wide_ascii);
+        return true;
+    }
+    if (code == U'　') {
+        text += ' ';
+        return true;
+    }
+    char32_t base = code;
+    char32_t mark = 0;
+    if (voiced_katakana.find(code) != std::u32string_view::npos) {
+        base = code - 1;
+        mark = voiced_mark;
+    } else if (half_voiced_katakana.find(code) != std::u32string_view::npos) {
+        base = code - 2;
+        mark = half_voiced_mark;
+    } else if (code == U'ヴ') {
+        base = U'ウ';
+        mark = voiced_mark;
+    }
+    const std::size_t place = wide_katakana.find(base);
+    if (place == std::u32string_view::npos) {
+        return false;
+    }
+    append_character(text, first_narrow_katakana + static_cast<char32_t>(place));
+    if (mark != 0) {
+        append_character(text, mark);
+    }
+    return true;
+}
+
 // The value of digits in a base of 8 or 16 as a 16- or 32-bit number with sign.
 double radix_value(std::string_view digits, int base) {
     std::uint64_t value = 0;
@@ -269,6 +314,18 @@ std::string upper(std::string_view text) {
 
 std::string lower(std::string_view text) {
     return shift_letters(text, 'A', 'Z', U'Ａ', 'a' - 'A');
+}
+
+std::string narrow(std::string_view text) {
+    std::string narrowed;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const Character character = character_at(text, offset);
+        if (!character.well_formed || !append_narrow(narrowed, character.code)) {
+            narrowed += text.substr(offset, character.size);
+        }
+        offset += character.size;
+    }
+    return narrowed;
 }
 
 std::string_view trim_left(std::string_view text) noexcept {

@@ -63,6 +63,11 @@ std::string replace_all(std::string_view text, std::string_view piece, std::stri
 std::string upper(std::string_view text);
 std::string lower(std::string_view text);
 
+// Full-width characters by their half-width forms: the letters, digits and signs of ASCII, the
+// blank, katakana and their punctuation; a voiced katakana becomes two characters. What has no
+// half-width form stays.
+std::string narrow(std::string_view text);
+
 std::string_view trim(std::string_view text) noexcept;
 std::string_view trim_left(std::string_view text) noexcept;
 std::string_view trim_right(std::string_view text) noexcept;

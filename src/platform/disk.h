@@ -68,7 +68,13 @@ struct DiskEntry {
     std::int64_t written = 0;
 };
 
-enum class WriteMode { replace, append };
+enum class WriteMode {
+    replace,
+    append,
+    // Replaces; the file can be read and written by its owner alone, from its first byte on, where
+    // the system tells users apart. It stays so when it is put in the place of another.
+    replace_for_owner,
+};
 
 class Disk {
   public:

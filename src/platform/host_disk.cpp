@@ -133,6 +133,17 @@ fs::path entry(const fs::path& folder, const std::string& name) {
     return exact;
 }
 
+#ifndef _WIN32
+constexpr mode_t owner_alone = S_IRUSR | S_IWUSR;
+#endif
+
+// Whether nobody but its owner may do anything with the file.
+bool is_for_owner(const fs::path& path) {
+    std::error_code error;
+    const fs::perms others = fs::perms::group_all | fs::perms::others_all;
+    return (fs::status(path, error).permissions() & others) == fs::perms::none && !error;
+}
+
 struct CloseFile {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
@@ -151,6 +162,23 @@ FileHandle open_file(const fs::path& path, const char* mode) {
     // Readers and writers of text bring their own buffers.
     static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0));
     return file;
+}
+
+// Opens a file that its owner alone may read, and empties it. One that is there is narrowed before
+// it is written. Where access follows from the folder, or the file system has no owners, it is as
+// any other.
+FileHandle open_file_for_owner(const fs::path& path) {
+#ifdef _WIN32
+    return open_file(path, "wb");
+#else
+    const int made = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, owner_alone);
+    if (made < 0) {
+        fail(errno);
+    }
+    static_cast<void>(fchmod(made, owner_alone));
+    static_cast<void>(close(made));
+    return open_file(path, "wb");
+#endif
 }
 
 // The absolute form without dots and without a separator at its end.
@@ -215,7 +243,9 @@ class HostDisk::FileSink : public ByteSink {
             open_files_->written.contains(id) || open_files_->read.contains(id)) {
             throw RunTimeError(Failure::already_open);
         }
-        file_ = open_file(path, mode == WriteMode::append ? "ab" : "wb");
+        file_ = mode == WriteMode::replace_for_owner
+                    ? open_file_for_owner(path)
+                    : open_file(path, mode == WriteMode::append ? "ab" : "wb");
         registered_ = open_files_->written.insert(identity(path)).first;
     }
     FileSink(const FileSink&) = delete;
@@ -503,12 +533,15 @@ void HostDisk::replace(std::string_view from, std::string_view to) {
     }
     require_unprotected(source);
     require_unprotected(place);
-    // The file's own permissions stay; one that may not be written is not replaced either.
+    // The file's own permissions stay, unless what takes its place is for its owner alone; one that
+    // may not be written is not replaced either.
     if (const fs::file_status status = fs::status(place, error); fs::exists(status)) {
         if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) {
             throw RunTimeError(Failure::permission_denied);
         }
-        fs::permissions(source, status.permissions(), error);
+        if (!is_for_owner(source)) {
+            fs::permissions(source, status.permissions(), error);
+        }
     }
     fs::rename(source, place, error);
     if (error) {

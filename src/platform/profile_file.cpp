@@ -22,8 +22,8 @@ std::string bytes_of(Disk& disk, const std::string& path) {
     return bytes;
 }
 
-void write_bytes(Disk& disk, const std::string& path, std::string_view bytes) {
-    const std::unique_ptr<ByteSink> file = disk.open_for_writing(path, WriteMode::replace);
+void write_bytes(Disk& disk, const std::string& path, WriteMode mode, std::string_view bytes) {
+    const std::unique_ptr<ByteSink> file = disk.open_for_writing(path, mode);
     file->write(bytes);
     file->close();
 }
@@ -194,7 +194,7 @@ bool ProfileFile::save() {
     }
     const std::string neighbour = path_ + "_1";
     try {
-        write_bytes(disk_, neighbour, bytes);
+        write_bytes(disk_, neighbour, mode_, bytes);
         disk_.replace(neighbour, path_);
         return true;
     } catch (const RunTimeError&) {

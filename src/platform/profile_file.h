@@ -49,6 +49,9 @@ class ProfileFile {
     // Puts these in the place of all that the section holds; a new section goes to the end.
     void set_entries(std::string_view section, const std::vector<Entry>& entries);
 
+    // From now on save() makes a file that its owner alone may read.
+    void keep_for_owner() noexcept { mode_ = WriteMode::replace_for_owner; }
+
     // Writes the file, whole or not at all: a neighbour first, which then takes its place. False if
     // the disk did not let it, or if the file is unread.
     [[nodiscard]] bool save();
@@ -78,6 +81,7 @@ class ProfileFile {
     Disk& disk_;
     std::string path_;
     std::vector<Line> lines_;
+    WriteMode mode_ = WriteMode::replace;
     bool is_unread_ = false;
 };
 

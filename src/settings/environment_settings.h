@@ -45,6 +45,14 @@ constexpr std::array<RequiredEntry, 8> required_entries{{
     {"all_dir", &EnvironmentSettings::all_dir},
 }};
 
+// The masters that this run uses: as their entries say when they are read, and as the environment
+// dialog has it since.
+struct MastersInUse {
+    bool name_mas = false;
+    bool qth_mas = false;
+    bool yubin_mas = false;
+};
+
 // Whether the station uses a master, by the text of its entry.
 inline bool is_used(std::string_view master_entry) {
     return master_entry != not_used;

@@ -39,6 +39,21 @@ std::string last_found(Disk& disk, const std::string& drive_root,
 
 }  // namespace
 
+void trace_profile_file(const Stage& stage, const SettingsStore& settings, std::string_view name,
+                        std::string_view moment) {
+    constexpr std::size_t line_of_equals = 32;
+    if (!settings.exists(name)) {
+        return;
+    }
+    stage.trace.write("=========  " + std::string(name) + "  ==== " + std::string(moment) +
+                      " =======");
+    TextInput file(stage.disk, settings.path(name));
+    for (std::string_view line; file.next_line(line);) {
+        stage.trace.write(line);
+    }
+    stage.trace.write(std::string(line_of_equals, '='));
+}
+
 std::string normalised_lengths(std::string_view list) {
     const std::string first = list.starts_with(',') ? "0" : "";
     return replace_all(first + std::string(list), ",,", ",0,");
@@ -183,6 +198,7 @@ void SettingsStore::read_Veldrana_ini() {
 
 void SettingsStore::write_Veldrana_cfg_ini() {
     ProfileFile file(disk_, path(cfg_ini));
+    file.keep_for_owner();  // it holds the password
     file.set_value(cfg_ini, version_key, program_version);
     for (const EnvironmentKey& key : environment_keys()) {
         file.set_value(cfg_ini, key.name, environment.*key.value);
@@ -196,6 +212,9 @@ void SettingsStore::read_Veldrana_cfg_ini() {
     for (const EnvironmentKey& key : environment_keys()) {
         environment.*key.value = file.value(cfg_ini, key.name);
     }
+    masters_in_use = {.name_mas = is_used(environment.name_mas_dir),
+                      .qth_mas = is_used(environment.qth_mas_dir),
+                      .yubin_mas = is_used(environment.yubin_mas_dir)};
 }
 
 void SettingsStore::write_dat_ini() {

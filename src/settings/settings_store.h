@@ -15,6 +15,7 @@
 #include "platform/clock.h"
 #include "platform/disk.h"
 #include "platform/profile_file.h"
+#include "platform/stage.h"
 #include "settings/environment_settings.h"
 #include "settings/option_settings.h"
 
@@ -32,6 +33,7 @@ class SettingsStore {
 
     OptionSettings options;
     EnvironmentSettings environment;
+    MastersInUse masters_in_use;
     // The version that the file read last was written by.
     std::string version;
     // Full path of the contest data file that is chosen.
@@ -83,6 +85,11 @@ class SettingsStore {
     std::string strPath_;
     std::set<std::string, std::less<>> unread_;
 };
+
+// Copies one of the files, if it is there, into the trace log, between a title line that tells the
+// moment, such as "起動時", and a line of "=".
+void trace_profile_file(const Stage& stage, const SettingsStore& settings, std::string_view name,
+                        std::string_view moment);
 
 // Empty items of a list of lengths become "0", in one pass that does not look back: a run of three
 // or more keeps a gap.

@@ -47,5 +47,12 @@ TEST(BatchPerson, ChoosesTheFileItWasGiven) {
     EXPECT_EQ(person.choose_file({}), "C:\\log\\x.all");
 }
 
+TEST(BatchPerson, ChoosesNoFolder) {
+    std::ostringstream messages;
+    BatchPerson person(messages, Answer::cancel);
+    person.choose("C:\\log\\x.all");
+    EXPECT_EQ(person.choose_folder("title", "C:\\"), "");
+}
+
 }  // namespace
 }  // namespace veldrana

@@ -335,6 +335,27 @@ TEST(Enter, RefusesWhatNoCheckBoxTakes) {
     EXPECT_EQ(notices, 0);
 }
 
+// --- text boxes ---
+
+TEST(TextBox, ShowsItsTextUnlessItIsHidden) {
+    Form form;
+    TextBox box(form, "Text1", "secret");
+    EXPECT_FALSE(box.hidden_text);
+    int notices = 0;
+    box.listener = [&] { ++notices; };
+    box.hidden_text = true;
+    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(box.text.get(), "secret");
+}
+
+TEST(TextBox, CaretMovesBehindTheLastCharacter) {
+    Form form;
+    TextBox box(form, "Text1", "JA1漢ｱ");
+    EXPECT_EQ(box.caret.get(), 0U);
+    box.move_caret_to_end();
+    EXPECT_EQ(box.caret.get(), 5U);
+}
+
 TEST(Enter, TakesAnyTextInATextBox) {
     Form form;
     TextBox box(form, "Text1", "old");

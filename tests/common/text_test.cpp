@@ -423,6 +423,40 @@ TEST(Lower, CoversAsciiAndFullWidthLettersAlone) {
     EXPECT_EQ(lower(""), "");
 }
 
+TEST(Narrow, TakesTheSignsOfAscii) {
+    std::string wide;
+    std::string ascii;
+    for (char32_t code = '!'; code <= '~'; ++code) {
+        append_character(ascii, code);
+        append_character(wide, code + 0xFEE0);
+    }
+    ASSERT_EQ(length(wide), 94U);
+    EXPECT_EQ(narrow(wide), ascii);
+    EXPECT_EQ(narrow("ＪＡ１ＺＺＺ／１　ｊａ"), "JA1ZZZ/1 ja");
+}
+
+TEST(Narrow, TakesKatakanaAndTheirPunctuation) {
+    EXPECT_EQ(narrow("アイウエオカキクケコサシスセソタチツテトナニヌネノ"),
+              "ｱｲｳｴｵｶｷｸｹｺｻｼｽｾｿﾀﾁﾂﾃﾄﾅﾆﾇﾈﾉ");
+    EXPECT_EQ(narrow("ハヒフヘホマミムメモヤユヨラリルレロワヲン"), "ﾊﾋﾌﾍﾎﾏﾐﾑﾒﾓﾔﾕﾖﾗﾘﾙﾚﾛﾜｦﾝ");
+    EXPECT_EQ(narrow("ァィゥェォャュョッー。「」、・゛゜"), "ｧｨｩｪｫｬｭｮｯｰ｡｢｣､･ﾞﾟ");
+}
+
+TEST(Narrow, AVoicedKatakanaBecomesTwoCharacters) {
+    EXPECT_EQ(narrow("ガギグゲゴザジズゼゾダヂヅデドバビブベボヴ"),
+              "ｶﾞｷﾞｸﾞｹﾞｺﾞｻﾞｼﾞｽﾞｾﾞｿﾞﾀﾞﾁﾞﾂﾞﾃﾞﾄﾞﾊﾞﾋﾞﾌﾞﾍﾞﾎﾞｳﾞ");
+    EXPECT_EQ(narrow("パピプペポ"), "ﾊﾟﾋﾟﾌﾟﾍﾟﾎﾟ");
+}
+
+TEST(Narrow, WhatHasNoHalfWidthFormStays) {
+    for (const std::string text :
+         {"", "JA1ZZZ/1 ", "ｱｶﾞ", "漢字", "ひらがな", "ヶヮヰ", "é", "￥"}) {
+        EXPECT_EQ(narrow(text), text);
+    }
+    const std::string odd = byte_80 + byte_FD + pair_8540 + "\xE1\xFA\xC1";
+    EXPECT_EQ(narrow("Ａ" + odd + "ア"), "A" + odd + "ｱ");
+}
+
 TEST(Case, LeavesUnreadableAndMalformedBytesAsTheyAre) {
     const std::string odd = byte_80 + byte_FD + pair_8540 + "\xE1\xFA\xC1";
     EXPECT_EQ(upper("a" + odd + "a"), "A" + odd + "A");

@@ -463,5 +463,19 @@ TEST(FailingDisk, FailsWheneverAFileOfTheNameIsOpenedForWriting) {
     EXPECT_EQ(memory.bytes(R"(C:\files\aa.txt)"), "b");
 }
 
+TEST(MemoryDisk, TellsWhatIsForItsOwnerAlone) {
+    MemoryDisk disk;
+    disk.put(R"(C:\a.txt)", "a");
+    disk.put(R"(C:\b.txt)", "b");
+    write_all(disk, R"(C:\c.txt)", "c", WriteMode::replace_for_owner);
+    EXPECT_FALSE(disk.is_for_owner(R"(C:\a.txt)"));
+    EXPECT_TRUE(disk.is_for_owner(R"(C:\c.txt)"));
+    disk.replace(R"(C:\c.txt)", R"(C:\a.txt)");
+    EXPECT_TRUE(disk.is_for_owner(R"(C:\a.txt)"));
+    disk.replace(R"(C:\b.txt)", R"(C:\a.txt)");
+    EXPECT_TRUE(disk.is_for_owner(R"(C:\a.txt)"));
+    EXPECT_EQ(disk.bytes(R"(C:\a.txt)"), "b");
+}
+
 }  // namespace
 }  // namespace veldrana

@@ -103,6 +103,10 @@ std::string MemoryDisk::bytes(std::string_view path) const {
     return require(path).bytes;
 }
 
+bool MemoryDisk::is_for_owner(std::string_view path) const {
+    return require(path).for_owner;
+}
+
 std::vector<std::string> MemoryDisk::files() const {
     std::vector<std::string> paths;
     for (const auto& [key, file] : files_) {
@@ -147,9 +151,10 @@ std::unique_ptr<ByteSink> MemoryDisk::open_for_writing(std::string_view path, Wr
         file = std::make_shared<File>(File{std::string(path), {}, {}});
     } else if (file->readers > 0 || file->writers > 0) {
         throw RunTimeError(Failure::already_open);
-    } else if (mode == WriteMode::replace) {
+    } else if (mode != WriteMode::append) {
         file->bytes.clear();
     }
+    file->for_owner = file->for_owner || mode == WriteMode::replace_for_owner;
     return std::make_unique<Sink>(file);
 }
 
@@ -175,6 +180,9 @@ void MemoryDisk::replace(std::string_view from, std::string_view to) {
     std::shared_ptr<File> file = files_[key_of(from)];
     files_.erase(key_of(from));
     file->path = to;
+    if (const auto place = files_.find(key_of(to)); place != files_.end()) {
+        file->for_owner = file->for_owner || place->second->for_owner;
+    }
     files_[key_of(to)] = std::move(file);
 }
 

@@ -21,6 +21,8 @@ class MemoryDisk : public Disk {
     void put_folder(std::string_view path);
     // The bytes of a file; failure 53 if there is none.
     std::string bytes(std::string_view path) const;
+    // Whether it was made for its owner alone; failure 53 if there is none.
+    bool is_for_owner(std::string_view path) const;
     // The names of all files, full paths, sorted without regard to case.
     std::vector<std::string> files() const;
     // Taken for UTC where entries are asked for, and for all three of their times.
@@ -47,6 +49,7 @@ class MemoryDisk : public Disk {
         std::string path;  // as it was first written
         std::string bytes;
         LocalTime modified;
+        bool for_owner = false;
         int readers = 0;
         int writers = 0;
     };

@@ -4,6 +4,8 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "common/person.h"
@@ -17,11 +19,16 @@ class ScriptedPerson : public Person {
     // Files chosen in order; when they run out, none.
     std::deque<std::string> files;
 
+    // Folders chosen in order; when they run out, none.
+    std::deque<std::string> folders;
+
     // What is done with forms, in order; when they run out, a form is closed as it is.
     std::deque<std::function<void(WindowForm&)>> forms;
 
     std::vector<MessageBox> boxes;
     std::vector<FileDialog> dialogs;
+    // Title and start of each folder dialog.
+    std::vector<std::pair<std::string, std::string>> folder_dialogs;
     int times_let_through = 0;
 
     Answer show(const MessageBox& box) override {
@@ -36,12 +43,12 @@ class ScriptedPerson : public Person {
 
     std::string choose_file(const FileDialog& dialog) override {
         dialogs.push_back(dialog);
-        if (files.empty()) {
-            return {};
-        }
-        std::string file = files.front();
-        files.pop_front();
-        return file;
+        return next_of(files);
+    }
+
+    std::string choose_folder(std::string_view title, std::string_view start) override {
+        folder_dialogs.emplace_back(title, start);
+        return next_of(folders);
     }
 
     void show_modal(WindowForm& form) override {
@@ -54,6 +61,16 @@ class ScriptedPerson : public Person {
     }
 
     void pending_events() override { ++times_let_through; }
+
+  private:
+    static std::string next_of(std::deque<std::string>& choices) {
+        if (choices.empty()) {
+            return {};
+        }
+        std::string choice = choices.front();
+        choices.pop_front();
+        return choice;
+    }
 };
 
 }  // namespace veldrana

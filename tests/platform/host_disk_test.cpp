@@ -21,6 +21,7 @@
 #include <gtest/gtest.h>
 
 #include "common/run_time_error.h"
+#include "platform/profile_file.h"
 #include "platform/text_file.h"
 #include "tests/doubles/disk_bytes.h"
 #include "tests/doubles/failure_of.h"
@@ -1099,6 +1100,76 @@ TEST_F(HostReplace, WriteProtectedFileIsNotReplaced) {
     fs::permissions(folder / "old.ini", fs::perms::owner_read);
     EXPECT_EQ(failure_of([this] { replace(); }), 70);
     EXPECT_EQ(read_bytes(folder / "old.ini"), "old");
+}
+
+// --- files for their owner alone ---
+
+constexpr auto for_owner = static_cast<fs::perms>(0600);
+
+class ForOwner : public HostReplace {
+  protected:
+    void write(const char* path, std::string_view bytes) {
+        write_all(disk, path, bytes, WriteMode::replace_for_owner);
+    }
+    fs::perms permissions(const char* name) { return fs::status(folder / name).permissions(); }
+
+    const CommonFileMask mask;
+};
+
+TEST_F(ForOwner, ANewFileIsReadByNobodyElse) {
+    write(R"(C:\secret.ini)", "PassWords=x");
+    EXPECT_EQ(read_bytes(folder / "secret.ini"), "PassWords=x");
+    EXPECT_EQ(permissions("secret.ini"), for_owner);
+}
+
+TEST_F(ForOwner, ItIsSoBeforeAnythingIsWritten) {
+    const std::unique_ptr<ByteSink> open =
+        disk.open_for_writing(R"(C:\secret.ini)", WriteMode::replace_for_owner);
+    EXPECT_EQ(permissions("secret.ini"), for_owner);
+}
+
+TEST_F(ForOwner, AFileThatIsThereIsEmptiedAndNarrowed) {
+    fs::permissions(folder / "old.ini", static_cast<fs::perms>(0664));
+    write(R"(C:\OLD.ini)", "x");
+    EXPECT_EQ(read_bytes(folder / "old.ini"), "x");
+    EXPECT_EQ(permissions("old.ini"), for_owner);
+}
+
+TEST_F(ForOwner, ItStaysSoInThePlaceOfAWiderFile) {
+    fs::permissions(folder / "old.ini", static_cast<fs::perms>(0644));
+    write(R"(C:\new.ini)", "x");
+    replace();
+    EXPECT_EQ(read_bytes(folder / "old.ini"), "x");
+    EXPECT_EQ(permissions("old.ini"), for_owner);
+}
+
+TEST_F(ForOwner, OtherFilesAreMadeForAll) {
+    write_all(disk, R"(C:\a.txt)", "x");
+    EXPECT_EQ(permissions("a.txt"), static_cast<fs::perms>(0644));
+}
+
+TEST_F(ForOwner, OneThatIsOpenIsNotOpenedAgain) {
+    const std::unique_ptr<ByteSink> open =
+        disk.open_for_writing(R"(C:\secret.ini)", WriteMode::replace_for_owner);
+    EXPECT_EQ(failure_of([this] { write(R"(C:\secret.ini)", "x"); }), 55);
+}
+
+TEST_F(ForOwner, AFolderInItsPlaceIsAFailure) {
+    fs::create_directory(folder / "sub");
+    EXPECT_EQ(failure_of([this] { write(R"(C:\sub)", "x"); }), 75);
+    EXPECT_EQ(failure_of([this] { write(R"(C:\none\x.ini)", "x"); }), 76);
+}
+
+TEST_F(ForOwner, AProfileFileIsNarrowedWhenItIsWrittenNext) {
+    write_bytes(folder / "cfg.ini", "[s]\r\nk=1\r\n");
+    fs::permissions(folder / "cfg.ini", static_cast<fs::perms>(0644));
+    ProfileFile file(disk, R"(C:\cfg.ini)");
+    file.set_value("s", "k", "2");
+    file.keep_for_owner();
+    EXPECT_EQ(permissions("cfg.ini"), static_cast<fs::perms>(0644));
+    ASSERT_TRUE(file.save());
+    EXPECT_EQ(read_bytes(folder / "cfg.ini"), "[s]\r\nk=2\r\n");
+    EXPECT_EQ(permissions("cfg.ini"), for_owner);
 }
 
 }  // namespace

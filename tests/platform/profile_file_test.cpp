@@ -382,6 +382,16 @@ TEST_F(ProfileFileTest, ChangesNothingBeforeItIsSaved) {
     EXPECT_EQ(text(), "[s]\r\nk=1\r\n");
 }
 
+TEST_F(ProfileFileTest, IsForAllReadersUnlessItIsKeptForItsOwner) {
+    set("s", "k", "1");
+    EXPECT_FALSE(disk_.is_for_owner(path));
+    ProfileFile file(disk_, path);
+    file.keep_for_owner();
+    ASSERT_TRUE(file.save());
+    EXPECT_TRUE(disk_.is_for_owner(path));
+    EXPECT_EQ(text(), "[s]\r\nk=1\r\n");
+}
+
 TEST_F(ProfileFileTest, AFolderInItsPlaceCannotBeSaved) {
     disk_.put_folder(path);
     ProfileFile file(disk_, path);

@@ -353,6 +353,14 @@ TEST_F(SettingsStoreTest, ValuesAreTrimmedBeforeTheyAreWritten) {
     EXPECT_EQ(text(dat_ini), "[DAT_MAS]\r\nset_dat_in_name=C:\\a.dat\r\n");
 }
 
+TEST_F(SettingsStoreTest, TheEnvironmentIsForItsOwnerAlone) {
+    store.write_Veldrana_new_ini();
+    put(cfg_ini, "[Veldrana_cfg.ini]\r\nPassWords=secret\r\n");
+    store.write_Veldrana_cfg_ini();
+    EXPECT_TRUE(disk.is_for_owner(folder + std::string(cfg_ini)));
+    EXPECT_FALSE(disk.is_for_owner(folder + std::string(new_ini)));
+}
+
 TEST_F(SettingsStoreTest, EachValueIsReplacedWhereItStands) {
     // Every section and key upside down.
     std::string before;
@@ -576,6 +584,23 @@ TEST_F(SettingsStoreTest, TheMarkOfAnEarlierStartIsTheWordItself) {
         store.read_Veldrana_new_ini();
         EXPECT_EQ(store.restart, restart) << value;
     }
+}
+
+TEST_F(SettingsStoreTest, AMasterIsInUseUnlessItsEntrySaysNo) {
+    put(cfg_ini,
+        "[Veldrana_cfg.ini]\r\nname_mas_dir=使用しない\r\nqth_mas_dir=\r\n"
+        "yubin_mas_dir=C:\\mas\\\r\n");
+    store.read_Veldrana_cfg_ini();
+    EXPECT_FALSE(store.masters_in_use.name_mas);
+    EXPECT_TRUE(store.masters_in_use.qth_mas);
+    EXPECT_TRUE(store.masters_in_use.yubin_mas);
+    put(cfg_ini,
+        "[Veldrana_cfg.ini]\r\nname_mas_dir=C:\\mas\\\r\nqth_mas_dir=使用しない\r\n"
+        "yubin_mas_dir=使用しない\r\n");
+    store.read_Veldrana_cfg_ini();
+    EXPECT_TRUE(store.masters_in_use.name_mas);
+    EXPECT_FALSE(store.masters_in_use.qth_mas);
+    EXPECT_FALSE(store.masters_in_use.yubin_mas);
 }
 
 TEST_F(SettingsStoreTest, TheVersionIsThatOfTheFileReadLast) {
