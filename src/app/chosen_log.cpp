@@ -79,7 +79,7 @@ void show_former_dupe_list(Program& program) {
 }
 
 void check_readiness(Program& program) {
-    const bool chosen = has_backslash(program.log.in_name);
+    const bool chosen = has_backslash(program.log.in_name) && program.log.accepted;
     const bool needs_dat = program.screen.Option02.index == 2;
     program.screen.enable_start(chosen && (!needs_dat || has_dat(program)));
     if (chosen) {

@@ -106,9 +106,6 @@ std::string choose_rtcl(Program& program, RtclForm form) {
 void open_lg8(Program& program, const std::string& path) {
     // How long the converter is waited for before its count is read.
     constexpr std::chrono::milliseconds patience{200};
-    if (path.empty()) {
-        return;
-    }
     if (!is_lg8_name(path)) {
         program.person.show({.text = "正しいファイル名を指定して下さい。"});
         return;

@@ -93,7 +93,6 @@ void take_data_file(Program& program, const ZloContest& contest) {
 
 void find_contest(Program& program, const std::string& name) {
     MainScreen& screen = program.screen;
-    program.refusals = {};
     screen.Frame11.enabled = true;
     screen.Option03.enabled = true;
     screen.Option03.index = automatic;

@@ -149,6 +149,7 @@ void Binder::bind(TextBox& control, QLineEdit* widget) {
     follow(control, [&control, widget] {
         show_common(control, widget);
         colour_text(widget, control.fore_colour);
+        widget->setEchoMode(control.hidden_text ? QLineEdit::Password : QLineEdit::Normal);
         const QString text = to_qt(control.text.get());
         if (widget->text() != text) {
             const QSignalBlocker quiet(widget);

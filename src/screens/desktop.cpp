@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "app/config_dialog.h"
 #include "app/start_up.h"
 #include "platform/environment.h"
 #include "platform/hamlog_library.h"
@@ -34,6 +35,9 @@ Desktop::~Desktop() {
 
 bool Desktop::start() {
     pump_.run([this] { program_.event([this] { Main(program_); }); });
+    if (program_.start.reached == Start::environment_dialog) {
+        pump_.run([this] { program_.event([this] { run_environment_dialog(program_); }); });
+    }
     if (program_.ended() || program_.start.reached != Start::main_screen) {
         return false;
     }

@@ -11,6 +11,7 @@
 #include "readers/frmRTCL_v4.h"
 #include "screens/text_view.h"
 #include "screens/view_builder.h"
+#include "settings/frmConfig.h"
 #include "settings/frmDate.h"
 #include "viewers/frmCheck_bak_qso_mas.h"
 #include "viewers/frmDisp.h"
@@ -244,6 +245,60 @@ std::unique_ptr<QDialog> view_of(frmRTCL_v4& form, Pump& pump, QWidget* parent) 
     return view;
 }
 
+std::unique_ptr<QDialog> view_of(frmConfig& form, Pump& pump, QWidget* parent) {
+    auto view = std::make_unique<FormView>(form, pump, parent);
+    ViewBuilder& build = view->build;
+    // It is left by its buttons alone.
+    view->leave = [] {};
+    view->setWindowFlag(Qt::WindowCloseButtonHint, false);
+
+    auto* const paths = new QGridLayout;
+    const auto add = [&](Label& title, TextBox& text, CommandButton& browse, CheckBox* unused) {
+        const int place = paths->rowCount();
+        paths->addWidget(build.label(title), place, 0);
+        paths->addWidget(build.edit(text, 0), place, 1);
+        paths->addWidget(build.button(browse), place, 2);
+        if (unused != nullptr) {
+            paths->addWidget(build.check(*unused), place, 3);
+        }
+    };
+    add(form.lblZlog_dat, form.txtZlog_dat, form.cmdZlog_dat, nullptr);
+    add(form.lblName_mas, form.txtName_mas, form.cmdName_mas, &form.chkNo_name);
+    add(form.lblQth_mas, form.txtQth_mas, form.cmdQth_mas, &form.chkNo_qth);
+    add(form.lblYUbin_mas, form.txtYubin_mas, form.cmdYubin_mas, &form.chkNo_yubin);
+    add(form.lblHamlog_hdb, form.txtHamlog_hdb, form.cmdHamlog_hdb, nullptr);
+    add(form.lblHamlog_hdb_2, form.txtHamlog_hdb_2, form.cmdHamlog_hdb_2, nullptr);
+    add(form.lblZloDir, form.txtZloDir, form.cmdGetZloDir, nullptr);
+    add(form.lblAllDir, form.txtAllDir, form.cmdGetAllDir, nullptr);
+    paths->setColumnStretch(1, 1);
+
+    auto* const operator_of_station = new QGridLayout;
+    operator_of_station->addWidget(build.label(form.lblMyCalls), 0, 0);
+    operator_of_station->addWidget(build.edit(form.txtMyCalls, 16), 0, 1);
+    operator_of_station->addWidget(build.label(form.lblPassWords), 1, 0);
+    operator_of_station->addWidget(build.edit(form.txtPassWords, 16), 1, 1);
+    operator_of_station->addWidget(build.check(form.chkShow_PassWords), 1, 2);
+    operator_of_station->addWidget(build.label(form.Label3), 2, 0, 1, 4);
+    operator_of_station->setColumnStretch(3, 1);
+
+    view->setLayout(column({
+        box("フォルダ と ファイル", column({build.label(form.lblMsg1), paths})),
+        box("運用者", operator_of_station),
+        box("No QSL", column({row({build.label(form.Label1), build.edit(form.Text1, 1)}),
+                              build.label(form.Label2)})),
+        build.label(form.lblMsg),
+        build.label(form.lblMsg2),
+        row_at_right(
+            {build.button(form.cmdSave), build.button(form.cmdOK), build.button(form.cmdEnd)}),
+    }));
+    constexpr int twips_of_a_pixel = 15;
+    const QSize least(frmConfig::least_width / twips_of_a_pixel,
+                      frmConfig::least_height / twips_of_a_pixel);
+    view->setMinimumSize(least.expandedTo(view->minimumSizeHint()));
+    view->place(QSize(880, 640));
+    return view;
+}
+
 // A form without a view of its own: its labels and buttons, one below the other.
 std::unique_ptr<QDialog> plain_view(WindowForm& form, Pump& pump, QWidget* parent) {
     auto view = std::make_unique<FormView>(form, pump, parent);
@@ -278,7 +333,8 @@ std::unique_ptr<QDialog> make_view(WindowForm& form, Pump& pump, QWidget* parent
                        is_shown_as<frmCon_sel>(form, pump, parent, view) ||
                        is_shown_as<frmDisp>(form, pump, parent, view) ||
                        is_shown_as<frmCheck_bak_qso_mas>(form, pump, parent, view) ||
-                       is_shown_as<frmRTCL_v4>(form, pump, parent, view);
+                       is_shown_as<frmRTCL_v4>(form, pump, parent, view) ||
+                       is_shown_as<frmConfig>(form, pump, parent, view);
     return known ? std::move(view) : plain_view(form, pump, parent);
 }
 

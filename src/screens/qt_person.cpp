@@ -89,6 +89,15 @@ std::string QtPerson::choose_file(const FileDialog& dialog) {
     return program_path(shown.selectedFiles().front());
 }
 
+std::string QtPerson::choose_folder(std::string_view title, std::string_view start) {
+    QString folder = last_folder_;
+    if (!start.empty() && disk_.folder_exists(start)) {
+        folder = QString::fromStdU16String(disk_.host_path(start).u16string());
+    }
+    const QString chosen = QFileDialog::getExistingDirectory(front(), to_qt(title), folder);
+    return chosen.isEmpty() ? std::string() : program_path(chosen);
+}
+
 void QtPerson::show_modal(WindowForm& form) {
     const std::unique_ptr<QDialog> view = make_view(form, pump_, front());
     view->show();

@@ -22,6 +22,7 @@ class QtPerson : public Person {
 
     Answer show(const MessageBox& box) override;
     std::string choose_file(const FileDialog& dialog) override;
+    std::string choose_folder(std::string_view title, std::string_view start) override;
     void show_modal(WindowForm& form) override;
     void pending_events() override;
 

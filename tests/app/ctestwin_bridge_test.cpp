@@ -232,7 +232,7 @@ TEST_F(ScriptedBridge, WrongNameGivesTheBoxAndWritesNothing) {
 }
 
 // No file at all is passed over in silence.
-TEST_F(ScriptedBridge, DISABLED_NoAnswerIsAWrongNameToo) {
+TEST_F(ScriptedBridge, NoAnswerIsAWrongNameToo) {
     open("");
     ASSERT_THAT(kit.person.boxes, SizeIs(1));
     EXPECT_EQ(kit.person.boxes[0].text, "正しいファイル名を指定して下さい。");

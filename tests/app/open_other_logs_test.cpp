@@ -544,7 +544,7 @@ TEST_F(OpenOtherLogs, RefusedRtclLogKeepsItsPathAndCannotBeStarted) {
 }
 
 // Any option that looks at readiness offers the start again.
-TEST_F(OpenOtherLogs, DISABLED_RefusedRtclLogCannotBeStartedBehindAnOptionEither) {
+TEST_F(OpenOtherLogs, RefusedRtclLogCannotBeStartedBehindAnOptionEither) {
     choose(screen.mnuOpen_rtcl_log_set_new430, "C:\\log\\v4.log");
     screen.Option02.index = 1;
     EXPECT_FALSE(screen.cmdStart.enabled);

@@ -145,6 +145,7 @@ class ReadHistory : public testing::Test {
 TEST_F(ReadHistory, WithoutARuleNothingIsRead) {
     screen.Option07.index = 0;
     screen.Check18.value = true;
+    kit.memory.protect_log_book({});  // another program may do so
     kit.memory.remove(database);
     EXPECT_THAT(finished_run(), IsEmpty());
     EXPECT_EQ(no_qsl_count(), 0U);
@@ -440,6 +441,7 @@ TEST_F(ReadHistory, RecordMarkedDeletedDoesNotCount) {
 
 TEST_F(ReadHistory, EmptyLogBookCoversNothing) {
     for (const std::string& bytes : {std::string(), own_table({}).bytes()}) {
+        kit.memory.protect_log_book({});  // another program may do so
         kit.memory.remove(database);
         put_database_bytes(bytes, bytes.empty() ? morning : evening);
         EXPECT_THAT(finished_run(), ElementsAre("read_hl_hdb_1()"));
@@ -496,6 +498,7 @@ TEST_F(ReadHistory, DatabaseThatDoesNotOpenEndsTheProgramWithoutAWord) {
 }
 
 TEST_F(ReadHistory, MissingDatabaseIsReported) {
+    kit.memory.protect_log_book({});  // another program may do so
     kit.memory.remove(database);
     run();
     EXPECT_EQ(program.ended(), ProgramEnd::Cause::reported);
@@ -506,6 +509,7 @@ TEST_F(ReadHistory, MissingDatabaseIsReported) {
 
 TEST_F(ReadHistory, DatabaseThatGoesMissingAfterARunIsReportedWhereItsTimeIsAskedFor) {
     finished_run();
+    kit.memory.protect_log_book({});  // another program may do so
     kit.memory.remove(database);
     kit.person.boxes.clear();
     EXPECT_THAT(run(), IsEmpty());

@@ -294,7 +294,7 @@ TEST_F(ReadZloHead, TelecomPartyHasNoBoxAndKeepsItsFlag) {
 }
 
 // The reading of a heading with a name forgets all that was waved through, so it does come again.
-TEST_F(ReadZloHead, DISABLED_QuestionThatWasWavedThroughStaysAwayUntilTheNextLog) {
+TEST_F(ReadZloHead, QuestionThatWasWavedThroughStaysAwayUntilTheNextLog) {
     kit.person.answers = {Answer::retry};
     open("DXコンテスト");
     screen.Option02.index = 2;
