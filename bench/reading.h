@@ -6,6 +6,7 @@
 #include <string>
 
 #include "bench/silent_stage.h"
+#include "output/output_names.h"
 #include "readers/adif.h"
 #include "readers/cabrillo.h"
 #include "readers/input_kind.h"
@@ -48,15 +49,28 @@ class Reading {
         }
     }
 
+    // Removes what reading a log has written, as it is in front of most runs. A file that is
+    // written anew while the disk is still at it has to wait.
+    void remove_texts(const std::string& name) {
+        for (const std::string& path :
+             {std::string("C:\\zlog_1.txt"), std::string("C:\\zlog_01.txt"),
+              std::string("C:\\rtcl_tmp.txt"), log2a_name("C:\\" + name)}) {
+            if (silent_.disk().file_exists(path)) {
+                silent_.disk().remove(path);
+            }
+        }
+    }
+
   private:
     LogRequest request(std::string_view in_name) const {
         return {.in_name = in_name, .in_Dir = "C:\\", .options = options_, .use = use_};
     }
 
     std::size_t read_rtcl(const std::string& in_name, RtclForm form) {
-        const std::string tmp = unpack_rtcl_log(stage_, in_name, form, "C:\\");
-        make_rtcl_log_to_zlog_all(stage_, tmp, rtcl_heading_of_run,
-                                  {"C:\\zlog_01.txt", "C:\\log_log2a.all"});
+        // The folder is the scratch drive's root too.
+        unpack_rtcl_log_to_zlog_all(stage_, {.in_name = in_name, .form = form, .strPath = "C:\\"},
+                                    rtcl_heading_of_run,
+                                    {"C:\\zlog_01.txt", "C:\\zlog_01.txt", log2a_name(in_name)});
         return a_2_t(stage_, request("C:\\zlog_01.txt"));
     }
 

@@ -96,9 +96,9 @@ void unpack_rtcl(Program& program, RtclForm form) {
     const Stage stage = program.stage();
     ChosenLog& log = program.log;
     const std::string text = log.in_Dir + std::string(zlog_01_file);
-    const std::string unpacked = unpack_rtcl_log(stage, log.in_name, form, program.paths.strPath);
-    make_rtcl_log_to_zlog_all(
-        stage, unpacked, rtcl_heading_of_run,
+    unpack_rtcl_log_to_zlog_all(
+        stage, {.in_name = log.in_name, .form = form, .strPath = program.paths.strPath},
+        rtcl_heading_of_run,
         {program.paths.drive_path + std::string(zlog_01_file), text, log2a_name(log.in_name)});
     program.screen.mnuDisp_log2a.enabled = true;
     log.in_name = text;

@@ -10,20 +10,13 @@
 #include <cstring>
 #include <limits>
 
+#include "common/byte_blocks.h"
 #include "common/run_time_error.h"
 
 namespace veldrana {
 namespace {
 
-constexpr std::size_t block_size = sizeof(std::uint64_t);
 constexpr std::uint64_t high_bits = 0x8080808080808080U;
-constexpr std::uint64_t block_of_blanks = 0x2020202020202020U;
-
-std::uint64_t block_at(std::string_view text, std::size_t offset) noexcept {
-    std::uint64_t block = 0;
-    std::memcpy(&block, text.data() + offset, block_size);
-    return block;
-}
 
 // The bits that are set in any of four blocks.
 std::uint64_t four_blocks_at(std::string_view text, std::size_t offset) noexcept {
@@ -39,23 +32,6 @@ void require_not_negative(Count count) {
     if (count < 0) {
         throw RunTimeError(Failure::invalid_call);
     }
-}
-
-// How many bytes at the start of the text are ASCII, looking no further than `limit`. There a byte
-// is a character is a byte of the code page, so positions need no counting.
-std::size_t ascii_prefix(std::string_view text, std::size_t limit) noexcept {
-    const std::size_t end = std::min(text.size(), limit);
-    std::size_t offset = 0;
-    while (offset + 4 * block_size <= end && (four_blocks_at(text, offset) & high_bits) == 0) {
-        offset += 4 * block_size;
-    }
-    while (offset + block_size <= end && (block_at(text, offset) & high_bits) == 0) {
-        offset += block_size;
-    }
-    while (offset < end && static_cast<unsigned char>(text[offset]) < 0x80) {
-        ++offset;
-    }
-    return offset;
 }
 
 // The byte offset behind the first `count` characters.
@@ -190,6 +166,21 @@ bool is_ascii(std::string_view text) noexcept {
         bits |= block_at(text, offset);
     }
     return (bits & high_bits) == 0;
+}
+
+std::size_t ascii_prefix(std::string_view text, std::size_t limit) noexcept {
+    const std::size_t end = std::min(text.size(), limit);
+    std::size_t offset = 0;
+    while (offset + 4 * block_size <= end && (four_blocks_at(text, offset) & high_bits) == 0) {
+        offset += 4 * block_size;
+    }
+    while (offset + block_size <= end && (block_at(text, offset) & high_bits) == 0) {
+        offset += block_size;
+    }
+    while (offset < end && static_cast<unsigned char>(text[offset]) < 0x80) {
+        ++offset;
+    }
+    return offset;
 }
 
 Character character_at(std::string_view text, std::size_t offset) noexcept {
@@ -334,23 +325,7 @@ std::string_view trim_left(std::string_view text) noexcept {
 }
 
 std::string_view trim_right(std::string_view text) noexcept {
-    // Fixed columns end in long runs of blanks.
-    std::size_t size = text.size();
-    if constexpr (std::endian::native == std::endian::little) {
-        while (size >= block_size) {
-            // The last byte of a block stands in its highest bits.
-            const std::uint64_t others = block_at(text, size - block_size) ^ block_of_blanks;
-            if (others != 0) {
-                return text.substr(0,
-                                   size - static_cast<std::size_t>(std::countl_zero(others)) / 8);
-            }
-            size -= block_size;
-        }
-    }
-    while (size > 0 && text[size - 1] == ' ') {
-        --size;
-    }
-    return text.substr(0, size);
+    return text.substr(0, size_without_blanks(text));
 }
 
 std::string_view trim(std::string_view text) noexcept {

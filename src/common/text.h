@@ -28,6 +28,11 @@ constexpr char32_t unreadable_pair = 0xF0000;
 
 bool is_ascii(std::string_view text) noexcept;
 
+// How many bytes at the start of the text are ASCII, looking no further than `limit`. There a byte
+// is a character is a byte of the code page, so positions need no counting.
+std::size_t ascii_prefix(std::string_view text,
+                         std::size_t limit = std::string_view::npos) noexcept;
+
 // The character that starts at a byte offset of the text, and the bytes that it takes there. A
 // byte that belongs to no well-formed character counts as one character of one byte.
 struct Character {

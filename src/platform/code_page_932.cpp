@@ -138,7 +138,12 @@ void append_from_code_page(std::string& text, std::string_view bytes) {
         return;
     }
     while (!bytes.empty()) {
-        append_character(text, take_character(bytes));
+        const std::size_t ascii = ascii_prefix(bytes);
+        text += bytes.substr(0, ascii);
+        bytes.remove_prefix(ascii);
+        if (!bytes.empty()) {
+            append_character(text, take_character(bytes));
+        }
     }
 }
 
@@ -148,13 +153,14 @@ void append_to_code_page(std::string& bytes, std::string_view text) {
         return;
     }
     for (std::size_t offset = 0; offset < text.size();) {
-        const Character character = character_at(text, offset);
-        if (character.code < 0x80) {
-            bytes += text[offset];
-        } else {
+        const std::size_t ascii = ascii_prefix(text.substr(offset));
+        bytes += text.substr(offset, ascii);
+        offset += ascii;
+        if (offset < text.size()) {
+            const Character character = character_at(text, offset);
             append_code(bytes, code_of(character));
+            offset += character.size;
         }
-        offset += character.size;
     }
 }
 

@@ -95,7 +95,9 @@ bool TextInput::next_line(std::string_view& line) {
 }
 
 TextOutput::TextOutput(Disk& disk, std::string_view path, WriteMode mode)
-    : sink_(disk.open_for_writing(path, mode)) {
+    : TextOutput(disk.open_for_writing(path, mode)) {}
+
+TextOutput::TextOutput(std::unique_ptr<ByteSink> sink) : sink_(std::move(sink)) {
     buffer_.reserve(disk_block_size + usual_line_size);
 }
 

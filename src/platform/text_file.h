@@ -36,6 +36,7 @@ class TextOutput final : public LineSink {
   public:
     // The failures of Disk::open_for_writing.
     TextOutput(Disk& disk, std::string_view path, WriteMode mode = WriteMode::replace);
+    explicit TextOutput(std::unique_ptr<ByteSink> sink);
     TextOutput(const TextOutput&) = delete;
     TextOutput& operator=(const TextOutput&) = delete;
     ~TextOutput() override;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstring>
 
 #include "common/run_time_error.h"
 #include "common/text.h"
@@ -14,11 +15,21 @@ namespace {
 constexpr double first_day = -657434;        // 1 January 100
 constexpr double day_behind_last = 2958466;  // 1 January 10000
 constexpr std::int64_t day_of_1970 = 25569;
-constexpr std::int64_t seconds_in_day = 86400;
+
+// The time of the day as the fraction tells it, to the nearest second: up to a whole day.
+std::int64_t seconds_of_day(double days) noexcept {
+    const double fraction = std::abs(days - static_cast<double>(static_cast<std::int64_t>(days)));
+    return static_cast<std::int64_t>(
+        std::floor(fraction * static_cast<double>(seconds_in_day) + 0.5));
+}
 
 template <class Number>
 Number number_at(std::string_view record, std::size_t offset) noexcept {
     Number number = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(&number, record.data() + offset, sizeof number);
+        return number;
+    }
     for (std::size_t i = sizeof(Number); i > 0; --i) {
         number = static_cast<Number>(static_cast<std::uint64_t>(number) << 8U |
                                      static_cast<unsigned char>(record[offset + i - 1]));
@@ -29,13 +40,14 @@ Number number_at(std::string_view record, std::size_t offset) noexcept {
 }  // namespace
 
 RecordFile::RecordFile(const Stage& stage, std::string_view path, std::size_t record_size)
-    : record_size_(record_size) {
-    stage.trace.write_open_for_input(path);
-    source_ = stage.disk.open_for_reading(path);
-    count_ = static_cast<std::size_t>(stage.disk.size(path) / record_size);
-    left_ = count_;
-    buffer_.resize(disk_block_size + record_size);
-}
+    : RecordFile((stage.trace.write_open_for_input(path), stage.disk), path, record_size) {}
+
+RecordFile::RecordFile(Disk& disk, std::string_view path, std::size_t record_size)
+    : source_(disk.open_for_reading(path)),
+      record_size_(record_size),
+      count_(static_cast<std::size_t>(disk.size(path) / record_size)),
+      left_(count_),
+      buffer_(disk_block_size + record_size, '\0') {}
 
 bool RecordFile::next(std::string_view& record) {
     if (left_ == 0) {
@@ -94,33 +106,22 @@ std::string_view counted_text(std::string_view bytes, std::size_t count, std::st
     return MidMbcs(page_text(bytes, own), 1, static_cast<Count>(counted.size()));
 }
 
-LocalTime time_of_days(double days) {
-    // Also false for what is no number.
-    if (!(days > first_day - 1 && days < day_behind_last)) {
-        throw RunTimeError(Failure::overflow);
-    }
-    const double whole = std::trunc(days);
-    const auto seconds = static_cast<std::int64_t>(
-        std::floor(std::abs(days - whole) * static_cast<double>(seconds_in_day) + 0.5));
-    if (whole == day_behind_last - 1 && seconds == seconds_in_day) {
-        throw RunTimeError(Failure::overflow);
-    }
-    return calendar_time((static_cast<std::int64_t>(whole) - day_of_1970) * seconds_in_day +
-                         seconds);
+bool is_calendar_time(double days) noexcept {
+    // False for what is no number too. The last half second would be the first of a day that no
+    // calendar holds.
+    return days > first_day - 1 && days < day_behind_last &&
+           (days < day_behind_last - 1 || seconds_of_day(days) < seconds_in_day);
 }
 
-MomentDigits::MomentDigits(const LocalTime& time) noexcept {
-    const auto put = [this](std::size_t end, int value, std::size_t count) {
-        for (; count > 0; --count, value /= 10) {
-            digits_[--end] = static_cast<char>('0' + value % 10);
-        }
-    };
-    put(4, time.year, 4);
-    put(6, time.month, 2);
-    put(8, time.day, 2);
-    put(10, time.hour, 2);
-    put(12, time.minute, 2);
-    put(14, time.second, 2);
+std::int64_t seconds_of_days(double days) {
+    if (!is_calendar_time(days)) {
+        throw RunTimeError(Failure::overflow);
+    }
+    return (static_cast<std::int64_t>(days) - day_of_1970) * seconds_in_day + seconds_of_day(days);
+}
+
+LocalTime time_of_days(double days) {
+    return calendar_time(seconds_of_days(days));
 }
 
 std::string MomentDigits::date() const {

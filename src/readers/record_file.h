@@ -20,6 +20,8 @@ class RecordFile {
   public:
     // The failures of Disk::open_for_reading.
     RecordFile(const Stage& stage, std::string_view path, std::size_t record_size);
+    // The same without a line in the trace log, for a file that has its line already.
+    RecordFile(Disk& disk, std::string_view path, std::size_t record_size);
 
     // How many whole records the file has.
     std::size_t count() const noexcept { return count_; }
@@ -54,11 +56,25 @@ std::string_view counted_text(std::string_view bytes, std::size_t count, std::st
 // fraction is the time of its day in front of that day too. What is no number or lies outside of
 // the years 100 to 9999 is failure 6.
 LocalTime time_of_days(double days);
+// The same as seconds since the start of 1970 by the calendar.
+std::int64_t seconds_of_days(double days);
+// Whether both do without a failure.
+bool is_calendar_time(double days) noexcept;
+
+constexpr std::int64_t seconds_in_day = 86400;
 
 // The digits of a moment.
 class MomentDigits {
   public:
-    explicit MomentDigits(const LocalTime& time) noexcept;
+    explicit MomentDigits(const LocalTime& time) noexcept {
+        put(0, time.year / 100);
+        put(2, time.year % 100);
+        put(4, time.month);
+        put(6, time.day);
+        put(8, time.hour);
+        put(10, time.minute);
+        put(12, time.second);
+    }
 
     std::string_view year() const noexcept { return piece(0, 4); }
     std::string_view month() const noexcept { return piece(4, 2); }
@@ -72,6 +88,11 @@ class MomentDigits {
   private:
     std::string_view piece(std::size_t start, std::size_t size) const noexcept {
         return std::string_view(digits_.data(), digits_.size()).substr(start, size);
+    }
+
+    void put(std::size_t at, int two_digits) noexcept {
+        digits_[at] = static_cast<char>('0' + two_digits / 10);
+        digits_[at + 1] = static_cast<char>('0' + two_digits % 10);
     }
 
     std::array<char, 14> digits_{};

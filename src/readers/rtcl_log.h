@@ -3,8 +3,10 @@
 // itself: it is unpacked to a text of quoted fields first, which readers/rtcl_to_zlog.h takes on.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -75,6 +77,9 @@ enum Field : std::size_t {
 };
 }  // namespace rtcl_line
 
+// As a line has them, by their places.
+using RtclFields = std::array<std::string_view, rtcl_line::count>;
+
 constexpr std::string_view rtcl_dupe_mark = "-DUPE- ";
 
 // Frequencies come as a counter that runs at a pace of its own in each band. Keeps the base of the
@@ -97,8 +102,41 @@ unsigned rtcl_number(std::uint8_t byte) noexcept;
 // text keeps all of them. "7012345" in 10 with a point in front of 3 is "   7012.345".
 std::string divided_text(std::string_view text, std::size_t width, std::size_t behind, char sign);
 
-// Writes rtcl_tmp.txt into the folder strPath, a line for each record that is no QTC; its path.
-// Texts are trimmed. Failure 6 for a time that no calendar holds.
+// Writes rtcl_tmp.txt into the folder strPath, a line for each record that is no QTC. Texts are
+// trimmed.
+class RtclUnpacker {
+  public:
+    // Opens both files.
+    RtclUnpacker(const Stage& stage, std::string_view in_name, RtclForm form,
+                 std::string_view strPath);
+    RtclUnpacker(const RtclUnpacker&) = delete;
+    RtclUnpacker& operator=(const RtclUnpacker&) = delete;
+    ~RtclUnpacker();
+
+    // Looks through the log. True if all of it can be unpacked and every field is read from
+    // rtcl_tmp.txt as it was written, so that nobody needs to read it who sees the fields.
+    bool fields_read_back() const;
+
+    // Writes the line of the next record; false behind the last one. Failure 6 for a time that no
+    // calendar holds.
+    bool next();
+
+    // The fields of that line; valid until the next call of next.
+    const RtclFields& fields() const noexcept;
+
+    // Writes what is left and closes the text; its path.
+    const std::string& finish();
+    const std::string& path() const noexcept;
+
+  private:
+    struct Work;
+
+    Disk& disk_;
+    std::string in_name_;
+    std::unique_ptr<Work> work_;
+};
+
+// All of that in one.
 std::string unpack_rtcl_log(const Stage& stage, std::string_view in_name, RtclForm form,
                             std::string_view strPath);
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <deque>
+#include <memory>
 
+#include "common/column_line.h"
 #include "common/procedure.h"
 #include "common/quoted_fields.h"
 #include "common/text.h"
-#include "readers/rtcl_log.h"
 
 namespace veldrana {
 namespace {
@@ -54,7 +54,10 @@ class ModeOfLine {
     std::string_view mode_;
 };
 
-std::string_view points_of(const RowReader& row) {
+// The fields of a line of rtcl_tmp.txt.
+using Row = std::span<const std::string_view>;
+
+std::string_view points_of(Row row) {
     return row[dupe] == rtcl_dupe_mark ? "0" : row[points];
 }
 
@@ -62,130 +65,179 @@ std::string_view multiplier_or_hyphen(std::string_view multiplier) {
     return multiplier.empty() ? "-" : multiplier;
 }
 
-void append_memo(const RowReader& row, std::string& line) {
+void add_memo(Row row, ColumnLine& line) {
     if (!row[op].empty()) {
-        line.append("%%").append(row[op]).append("%% ");
+        line.add("%%", row[op], "%% ");
     }
-    line += row[dupe];
+    line.add(row[dupe]);
     if (!row[rounded_frequency].empty()) {
-        line.append("(").append(row[rounded_frequency]).append(")");
+        line.add("(", row[rounded_frequency], ")");
     }
     if (!row[comment].empty()) {
-        line.append(" ").append(row[comment]);
+        line.add(" ", row[comment]);
     }
 }
 
-void append_right_aligned(std::string_view text, std::size_t width, std::string& line) {
+void add_right_aligned(std::string_view text, std::size_t width, ColumnLine& line) {
     const std::string filled = std::string(width, ' ').append(text);
-    line += right(filled, static_cast<Count>(width));
+    line.add(right(filled, static_cast<Count>(width)));
 }
 
-void write_all_line(const RowReader& row, std::string_view mode_text, std::string& line) {
-    const auto put = [&line](std::string_view text, std::size_t width) {
-        append_fixed_width(line, text, width);
-    };
-    line.assign(row[date]).append(" ");
-    line.append(divided_text(left(row[time], 4), 4, 2, ':')).append(" ");
-    put(row[call], 13);
-    put(row[report_sent], 4);
-    put(row[exchange_sent], 8);
-    put(row[report_received], 4);
-    put(row[exchange_received], 7);
-    line += ' ';
-    put(multiplier_or_hyphen(row[multiplier_1]), 5);
-    line += ' ';
-    put(multiplier_or_hyphen(row[multiplier_2]), 5);
-    line += ' ';
-    put(row[band], 5);
-    put(mode_text, 5);
-    put(points_of(row), 4);
-    append_memo(row, line);
+// hh:mm of hhmmss.
+void add_clock(std::string_view hhmmss, ColumnLine& line) {
+    constexpr std::size_t hhmm = 4;
+    if (ascii_prefix(hhmmss, hhmm) == hhmm) {
+        line.add(hhmmss.substr(0, 2), ":", hhmmss.substr(2, 2));
+    } else {
+        line.add(divided_text(left(hhmmss, hhmm), hhmm, 2, ':'));
+    }
 }
 
-void write_txt_line(const RowReader& row, std::string_view mode_text, std::string& line) {
-    const auto put = [&line](std::string_view text, std::size_t width) {
-        append_fixed_width(line, text, width);
-    };
+void write_all_line(Row row, std::string_view mode_text, ColumnLine& line) {
+    line.clear().add(row[date], " ");
+    add_clock(row[time], line);
+    line.add(" ");
+    line.add_columns(std::array<FixedText, 10>{{{row[call], 13},
+                                                {row[report_sent], 4},
+                                                {row[exchange_sent], 8},
+                                                {row[report_received], 4},
+                                                {row[exchange_received], 7, 1},
+                                                {multiplier_or_hyphen(row[multiplier_1]), 5, 1},
+                                                {multiplier_or_hyphen(row[multiplier_2]), 5, 1},
+                                                {row[band], 5},
+                                                {mode_text, 5},
+                                                {points_of(row), 4}}});
+    add_memo(row, line);
+}
+
+void write_txt_line(Row row, std::string_view mode_text, ColumnLine& line) {
     std::string_view month = mid(row[date], 6, 2);
     if (month.starts_with('0')) {
         month.remove_prefix(1);
     }
     line.clear();
-    put(month, 5);
-    put(mid(row[date], 9, 2), 3);
-    put(left(row[time], 4), 5);
-    put(row[call], 11);
-    append_right_aligned(row[report_sent], 3, line);
-    put(row[exchange_sent], 13);
-    append_right_aligned(row[report_received], 3, line);
-    put(row[exchange_received], 11);
-    append_right_aligned(multiplier_or_hyphen(row[multiplier_1]), 8, line);
-    line += ' ';
-    append_right_aligned(row[band], 4, line);
-    line += ' ';
-    put(mode_text, 4);
-    line += points_of(row);
-    append_memo(row, line);
+    line.add_column(month, 5).add_column(mid(row[date], 9, 2), 3);
+    line.add_column(left(row[time], 4), 5).add_column(row[call], 11);
+    add_right_aligned(row[report_sent], 3, line);
+    line.add_column(row[exchange_sent], 13);
+    add_right_aligned(row[report_received], 3, line);
+    line.add_column(row[exchange_received], 11);
+    add_right_aligned(multiplier_or_hyphen(row[multiplier_1]), 8, line);
+    line.add(" ");
+    add_right_aligned(row[band], 4, line);
+    line.add(" ").add_column(mode_text, 4).add(points_of(row));
+    add_memo(row, line);
 }
 
-// The same lines to several files. Two paths may lead to one file, which is written once.
-class Outputs {
+// The same bytes to several files. Two paths may lead to one file, which is written once.
+class SameFiles : public ByteSink {
   public:
-    Outputs(const Stage& stage, const std::vector<std::string>& paths) {
+    SameFiles(const Stage& stage, const std::vector<std::string>& paths) {
         for (auto path = paths.begin(); path != paths.end(); ++path) {
             const bool opened = std::any_of(paths.begin(), path, [&](const std::string& other) {
                 return other == *path || stage.disk.same_file(other, *path);
             });
             if (!opened) {
                 stage.trace.write_open_for_output(*path);
-                files_.emplace_back(stage.disk, *path);
+                files_.push_back(stage.disk.open_for_writing(*path, WriteMode::replace));
             }
         }
     }
 
-    void write_line(std::string_view line) {
-        for (TextOutput& file : files_) {
-            file.write_line(line);
+    void write(std::string_view bytes) override {
+        for (const std::unique_ptr<ByteSink>& file : files_) {
+            file->write(bytes);
         }
     }
 
-    void close() {
-        for (TextOutput& file : files_) {
-            file.close();
+    void close() override {
+        for (const std::unique_ptr<ByteSink>& file : files_) {
+            file->close();
         }
     }
 
   private:
-    std::deque<TextOutput> files_;
+    std::vector<std::unique_ptr<ByteSink>> files_;
+};
+
+// A text of zLog while it is written.
+class ZlogText {
+  public:
+    ZlogText(const Stage& stage, std::string_view heading, TextForm form,
+             const std::vector<std::string>& paths)
+        : form_(form), modes_(form), output_(std::make_unique<SameFiles>(stage, paths)) {
+        output_.write_line(heading);
+    }
+
+    void write(Row row) {
+        const std::string_view mode_text = modes_.take(row[mode]);
+        if (form_ == TextForm::all) {
+            write_all_line(row, mode_text, line_);
+        } else {
+            write_txt_line(row, mode_text, line_);
+        }
+        output_.write_line(line_.text());
+    }
+
+    void close() { output_.close(); }
+
+  private:
+    TextForm form_;
+    ModeOfLine modes_;
+    TextOutput output_;
+    ColumnLine line_;
 };
 
 void convert(const Stage& stage, std::string_view rtcl_tmp, std::string_view heading, TextForm form,
              const std::vector<std::string>& paths) {
     TextInput input = stage.open_input(rtcl_tmp);
-    Outputs output(stage, paths);
-    output.write_line(heading);
+    ZlogText text(stage, heading, form, paths);
     RowReader row(input, rtcl_line::count);
-    ModeOfLine modes(form);
-    std::string line;
     while (!row.at_end()) {
         row.read();
-        const std::string_view mode_text = modes.take(row[mode]);
-        if (form == TextForm::all) {
-            write_all_line(row, mode_text, line);
-        } else {
-            write_txt_line(row, mode_text, line);
-        }
-        output.write_line(line);
+        text.write(row.columns());
     }
-    output.close();
+    text.close();
 }
+
+// Writes the .ALL line by line with rtcl_tmp.txt, which read again would only tell the same; for
+// the trace log it counts as read. What the .ALL meets does not keep that text from being finished:
+// it comes first.
+void convert_while_unpacking(const Stage& stage, RtclUnpacker& unpacker, std::string_view heading,
+                             const std::vector<std::string>& paths) {
+    try {
+        stage.trace.write_open_for_input(unpacker.path());
+        ZlogText text(stage, heading, TextForm::all, paths);
+        while (unpacker.next()) {
+            text.write(unpacker.fields());
+        }
+        unpacker.finish();
+        text.close();
+    } catch (const RunTimeError&) {
+        unpacker.finish();
+        throw;
+    }
+}
+
+constexpr std::string_view all_procedure = "Private Sub make_rtcl_log_to_zlog_all()";
 
 }  // namespace
 
 void make_rtcl_log_to_zlog_all(const Stage& stage, std::string_view rtcl_tmp,
                                std::string_view heading, const std::vector<std::string>& outputs) {
-    enter_procedure(stage.trace, "Private Sub make_rtcl_log_to_zlog_all()",
+    enter_procedure(stage.trace, all_procedure,
                     [&] { convert(stage, rtcl_tmp, heading, TextForm::all, outputs); });
+}
+
+void unpack_rtcl_log_to_zlog_all(const Stage& stage, const RtclRun& run, std::string_view heading,
+                                 const std::vector<std::string>& outputs) {
+    RtclUnpacker unpacker(stage, run.in_name, run.form, run.strPath);
+    if (!unpacker.fields_read_back()) {
+        make_rtcl_log_to_zlog_all(stage, unpacker.finish(), heading, outputs);
+        return;
+    }
+    enter_procedure(stage.trace, all_procedure,
+                    [&] { convert_while_unpacking(stage, unpacker, heading, outputs); });
 }
 
 void make_rtcl_log_to_zlog_txt(const Stage& stage, std::string_view rtcl_tmp,

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/stage.h"
+#include "readers/rtcl_log.h"
 
 namespace veldrana {
 
@@ -23,6 +24,19 @@ constexpr std::string_view rtcl_heading_of_tool =
 // Failure 62 for a row that lacks fields; the lines in front of it stand in all of them then.
 void make_rtcl_log_to_zlog_all(const Stage& stage, std::string_view rtcl_tmp,
                                std::string_view heading, const std::vector<std::string>& outputs);
+
+// What a run unpacks, and where to.
+struct RtclRun {
+    std::string_view in_name;
+    RtclForm form;
+    std::string_view strPath;  // the program's folder
+};
+
+// Unpacks a log and makes the .ALL of it: what unpack_rtcl_log and make_rtcl_log_to_zlog_all do one
+// after the other, with their files, lines in the trace log and failures, but without reading
+// rtcl_tmp.txt where that would tell nothing new.
+void unpack_rtcl_log_to_zlog_all(const Stage& stage, const RtclRun& run, std::string_view heading,
+                                 const std::vector<std::string>& outputs);
 
 // The same to one .TXT. Its columns are those of the tool that it was first made for and not those
 // that the reader of .TXT logs takes; kept.

@@ -106,6 +106,16 @@ TEST(IsAscii, LooksAtEveryByteWhateverTheLength) {
     }
 }
 
+TEST(AsciiPrefix, EndsAtTheFirstOtherByteOrAtTheLimit) {
+    for (std::size_t size = 0; size < 80; ++size) {
+        const std::string text = std::string(size, '\x7F') + "漢abc";
+        EXPECT_EQ(ascii_prefix(text), size);
+        EXPECT_EQ(ascii_prefix(std::string_view(text).substr(0, size)), size);
+        EXPECT_EQ(ascii_prefix(text, size / 2), size / 2);
+        EXPECT_EQ(ascii_prefix(text, size + 1), size);
+    }
+}
+
 TEST(IsAscii, DoesNotReadPastAPieceOfALongerText) {
     const std::string text = "JA1QZX 599漢";
     EXPECT_TRUE(is_ascii(std::string_view(text).substr(0, 10)));

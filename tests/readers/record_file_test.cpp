@@ -104,6 +104,7 @@ struct MomentCase {
 class DaysOfALog : public testing::TestWithParam<MomentCase> {};
 
 TEST_P(DaysOfALog, StandForAMoment) {
+    EXPECT_TRUE(is_calendar_time(GetParam().days));
     EXPECT_EQ(date_time_text(time_of_days(GetParam().days)), GetParam().text);
 }
 
@@ -131,6 +132,7 @@ TEST(DaysOfNoCalendar, Overflow) {
     for (const double days :
          {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), Limits::max(),
           Limits::lowest(), 1e300, -1e300, 9.3e18, -657435.0, 2958466.0, 2958465.999999}) {
+        EXPECT_FALSE(is_calendar_time(days)) << days;
         EXPECT_EQ(failure_of([days] { time_of_days(days); }), 6) << days;
     }
 }

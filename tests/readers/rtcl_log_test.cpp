@@ -272,6 +272,49 @@ TEST_P(Rtcl, TextsAreTrimmedAndMayBeEmpty) {
     EXPECT_EQ(line[rtcl_line::op], "");
 }
 
+// The bytes of a text come out as they went in, whatever they are and whatever stands beside them.
+TEST_P(Rtcl, TextsKeepTheirBytes) {
+    for (int byte = 0x21; byte <= 0xFF; ++byte) {
+        const std::string one(1, static_cast<char>(byte));
+        for (const std::string& bytes : {one, "1" + one + "2", "\x88\xDA" + one}) {
+            put_log(RtclContactBytes{.call = from_code_page(bytes),
+                                     .exchange_sent = from_code_page(" " + bytes),
+                                     .comment = from_code_page(bytes)}
+                        .bytes(GetParam()));
+            unpack_rtcl_log(stage, log_path, GetParam(), "C:\\veldrana\\");
+            std::string expected = R"("00001","7","2025/04/26","210559","7","   7012.000","7012",)";
+            expected += R"("CW","",")" + bytes + R"(","599",")" + bytes + R"(","","589",)";
+            expected += R"("104M","","1","","","","","",")" + bytes + "\"\r\n";
+            EXPECT_EQ(disk.bytes("C:\\veldrana\\rtcl_tmp.txt"), expected) << byte;
+        }
+    }
+}
+
+TEST_P(Rtcl, DateFollowsTheDays) {
+    const auto read = unpack({{.days = april_26 + 0.25},
+                              {.days = april_26 + 0.75},
+                              {.days = april_26 + 1.0},
+                              {.days = april_26},
+                              {.days = april_26 - 1.0 / 86400},
+                              {.days = -1.25},
+                              {.days = 0.5}});
+    std::vector<std::string> moments;
+    for (const Contact& line : read) {
+        moments.push_back(line[rtcl_line::date] + " " + line[rtcl_line::time]);
+    }
+    EXPECT_THAT(moments, ElementsAre("2025/04/26 060000", "2025/04/26 180000", "2025/04/27 000000",
+                                     "2025/04/26 000000", "2025/04/25 235959", "1899/12/29 060000",
+                                     "1899/12/30 120000"));
+}
+
+TEST_P(Rtcl, LongFrequencyKeepsAllItsDigits) {
+    // (3521225471 - 3114354560) * 10000 Hz above 430 MHz
+    const Contact line = unpack({{.band = "5600", .counter = 3521225471}}).at(0);
+    EXPECT_EQ(line[rtcl_line::frequency], "4069139110.000");
+    EXPECT_EQ(line[rtcl_line::rounded_frequency], "4069139110");
+    EXPECT_EQ(unpack({{.band = "1.8", .counter = 0}}).at(0)[rtcl_line::frequency], "   1800.000");
+}
+
 TEST_P(Rtcl, TimeOfNoCalendarOverflows) {
     for (const double days : {std::numeric_limits<double>::quiet_NaN(), 1e300, -1e9}) {
         EXPECT_EQ(failure_of([&] { unpack({{.days = days}}); }), 6) << days;

@@ -2,6 +2,9 @@
 #include "readers/rtcl_to_zlog.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <limits>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -287,6 +290,275 @@ TEST_F(RtclToZlog, FieldWithALineBreakIsReadAsTheFileThenReads) {
         62);
     EXPECT_EQ(error_lines(), std::vector<std::string>{
                                  "エラー発生  Private Sub make_rtcl_log_to_zlog_all() ：　62"});
+}
+
+// --- unpacked and converted in one pass ---
+
+// All that a run leaves of an RTCL log, and how it went.
+struct Outcome {
+    int failure = 0;
+    std::vector<std::string> texts;
+    std::vector<std::string> trace;
+
+    bool operator==(const Outcome&) const = default;
+};
+
+class RtclInOnePass : public RtclToZlog, public testing::WithParamInterface<RtclForm> {
+  protected:
+    const std::vector<std::string> outputs{"C:\\zlog_01.txt", "C:\\log\\zlog_01.txt", all_path};
+
+    template <class Act>
+    Outcome outcome_of(Act act) {
+        trace.lines.clear();
+        disk.put(tmp_path, "of the run before");
+        for (const std::string& path : outputs) {
+            disk.put(path, "of the run before");
+        }
+        Outcome outcome{failure_of(act), {disk.bytes(tmp_path)}, trace.lines};
+        for (const std::string& path : outputs) {
+            outcome.texts.push_back(disk.bytes(path));
+        }
+        return outcome;
+    }
+
+    Outcome one_after_the_other() {
+        return outcome_of([this] {
+            const std::string tmp = unpack_rtcl_log(stage, log_path, GetParam(), "C:\\veldrana\\");
+            make_rtcl_log_to_zlog_all(stage, tmp, rtcl_heading_of_run, outputs);
+        });
+    }
+
+    Outcome in_one_pass() {
+        return outcome_of([this] {
+            unpack_rtcl_log_to_zlog_all(
+                stage, {.in_name = log_path, .form = GetParam(), .strPath = "C:\\veldrana\\"},
+                rtcl_heading_of_run, outputs);
+        });
+    }
+
+    // The one way leaves just what the other does; returns it.
+    Outcome same_either_way(const std::vector<RtclContactBytes>& contacts,
+                            const std::string& what) {
+        std::string bytes;
+        for (const RtclContactBytes& contact : contacts) {
+            bytes += contact.bytes(GetParam());
+        }
+        put_log(bytes);
+        Outcome expected = one_after_the_other();
+        const Outcome outcome = in_one_pass();
+        EXPECT_EQ(outcome.failure, expected.failure) << what;
+        EXPECT_EQ(outcome.texts, expected.texts) << what;
+        EXPECT_EQ(outcome.trace, expected.trace) << what;
+        return expected;
+    }
+
+    bool reads_back(const RtclContactBytes& contact) {
+        put_log(RtclContactBytes{}.bytes(GetParam()) + contact.bytes(GetParam()));
+        return RtclUnpacker(stage, log_path, GetParam(), "C:\\veldrana\\").fields_read_back();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(BothForms, RtclInOnePass,
+                         testing::Values(RtclForm::before_430, RtclForm::from_430));
+
+// A moment of 26 April 2025 with a line end and a quote among its bytes.
+constexpr auto odd_days = std::bit_cast<double>(std::uint64_t{0x40E659A000000A22});
+
+constexpr std::array text_fields{&RtclContactBytes::kind,
+                                 &RtclContactBytes::band,
+                                 &RtclContactBytes::mode,
+                                 &RtclContactBytes::second_mode,
+                                 &RtclContactBytes::call,
+                                 &RtclContactBytes::report_sent,
+                                 &RtclContactBytes::exchange_sent,
+                                 &RtclContactBytes::text_sent,
+                                 &RtclContactBytes::report_received,
+                                 &RtclContactBytes::exchange_received,
+                                 &RtclContactBytes::text_received,
+                                 &RtclContactBytes::multiplier_1,
+                                 &RtclContactBytes::multiplier_2,
+                                 &RtclContactBytes::third_text,
+                                 &RtclContactBytes::op,
+                                 &RtclContactBytes::comment};
+
+// Texts as a place may hold them, as bytes of the code page: every byte alone and between
+// others; characters of two bytes, cut by narrow places; blanks around and within.
+std::vector<std::string> texts_of_pages() {
+    std::vector<std::string> texts{"",
+                                   "  7",
+                                   "a b",
+                                   " \x88\xDA ",
+                                   "\x88\xDA\x93\xAE",
+                                   "a\x88\xDA\x93\xAE\x89\x5E\x97\x70",
+                                   "\x95\x5C",           // its second byte is a backslash
+                                   "\x87\x90",           // stands in the page twice
+                                   "\xED\x40",           // the same
+                                   "\x81\xAD",           // a code that the page leaves open
+                                   "\x83\"",             // a lead byte in front of a quote
+                                   "\xB6\xC5 \xD2\xD3",  // half-width
+                                   "\"",
+                                   "\"\"",
+                                   "a\"b",
+                                   "\"a,b\"",
+                                   "a,b",
+                                   "\r\n",
+                                   "a\r\nb",
+                                   "\n",
+                                   "\r",
+                                   std::string("a\0b", 3),
+                                   std::string(25, 'x'),
+                                   std::string(25, '"')};
+    for (int byte = 0; byte <= 0xFF; ++byte) {
+        const std::string one(1, static_cast<char>(byte));
+        texts.insert(texts.end(), {one, "1" + one + "2"});
+    }
+    return texts;
+}
+
+TEST_P(RtclInOnePass, EveryTextInEveryFieldGivesTheSame) {
+    for (const std::string& page_bytes : texts_of_pages()) {
+        const std::string text = from_code_page(page_bytes);
+        for (std::size_t i = 0; i < text_fields.size(); ++i) {
+            RtclContactBytes odd{.call = "JA1ZZB", .op = "JA1ZZZ", .comment = "QRP"};
+            odd.*text_fields[i] = text;
+            same_either_way({{}, odd, {.mode = "USB", .call = "JA1ZZC"}},
+                            testing::PrintToString(page_bytes) + " in " + std::to_string(i));
+        }
+    }
+}
+
+TEST_P(RtclInOnePass, NumbersGiveTheSame) {
+    const std::uint32_t quotes = 0x22222222;
+    const std::uint32_t line_ends = 0x0A0A0A0A;
+
+    const Outcome outcome =
+        same_either_way({{.band = "x", .counter = 0},
+                         {.counter = quotes},
+                         {.counter = line_ends},
+                         {.band = "5600", .counter = 0xFFFFFFFF},
+                         {.band = "5600", .counter = 3521225471},
+                         {.dupe = '"', .points = '"'},
+                         {.dupe = '\n', .points = '\n'},
+                         {.days = odd_days},
+                         {.days = odd_days + 1.0},
+                         {.days = odd_days},
+                         {.kind = "QTC\"", .days = std::numeric_limits<double>::quiet_NaN()},
+                         {.days = -657434.99}},
+                        "numbers");
+    EXPECT_EQ(outcome.failure, 0);
+}
+
+TEST_P(RtclInOnePass, ContactsReachEveryOutput) {
+    const Outcome outcome = same_either_way(
+        {{}, {.kind = "QTC"}, {.call = "JA1ZZB", .comment = "移動 運用"}}, "three records");
+    const std::string all =
+        "zLog for Windows   (rtcl.log to zlog.all)    by Morvessa 5.30\r\n"
+        "2025/04/26 21:05 JA1ZZA       599 11M     589 104M    -     -     7    CW   1   (7012)\r\n"
+        "2025/04/26 21:05 JA1ZZB       599 11M     589 104M    -     -     7    CW   1   (7012) " +
+        to_code_page("移動 運用") + "\r\n";
+    EXPECT_THAT(outcome.texts, ElementsAre(testing::_, all, all, all));
+}
+
+TEST_P(RtclInOnePass, LogWithoutContactsGivesHeadings) {
+    EXPECT_EQ(same_either_way({}, "nothing").texts.at(0), "");
+    EXPECT_EQ(same_either_way({{.kind = "QTC"}}, "a QTC").texts.at(1),
+              "zLog for Windows   (rtcl.log to zlog.all)    by Morvessa 5.30\r\n");
+}
+
+// The line that is put together across the end of a block of the disk, and many of them.
+TEST_P(RtclInOnePass, LongLogGivesTheSame) {
+    std::vector<RtclContactBytes> contacts(2000);
+    for (std::size_t i = 0; i < contacts.size(); ++i) {
+        contacts[i].days += static_cast<double>(i) / 100;
+        contacts[i].comment = i % 7 == 0 ? "移動" : std::string(i % 21, 'm');
+    }
+    EXPECT_EQ(same_either_way(contacts, "2000").failure, 0);
+    contacts.back().comment = "\"";
+    same_either_way(contacts, "a quote at the end");
+}
+
+// What was written before stays where the log cannot be unpacked to its end.
+TEST_P(RtclInOnePass, TimeOfNoCalendarLeavesTheTextsBefore) {
+    const Outcome outcome =
+        same_either_way({{}, {.days = std::numeric_limits<double>::quiet_NaN()}, {}}, "no time");
+    EXPECT_EQ(outcome.failure, 6);
+    EXPECT_EQ(std::count(outcome.texts[0].begin(), outcome.texts[0].end(), '\n'), 1);
+    EXPECT_EQ(outcome.texts[1], "of the run before");
+    EXPECT_EQ(outcome.texts[3], "of the run before");
+}
+
+TEST_P(RtclInOnePass, OutputThatCannotBeWrittenComesBehindTheUnpacking) {
+    disk.protect(all_path);
+    const Outcome outcome = same_either_way({{}, {}}, "protected");
+    EXPECT_EQ(outcome.failure, 55);
+    EXPECT_EQ(std::count(outcome.texts[0].begin(), outcome.texts[0].end(), '\n'), 2);
+    EXPECT_EQ(outcome.texts[1], "");
+    EXPECT_EQ(outcome.texts[3], "of the run before");
+}
+
+// Whatever the disk fails at is told.
+TEST_P(RtclInOnePass, FailureOfAnyOperationIsMet) {
+    std::string bytes;
+    for (int i = 0; i < 1000; ++i) {
+        bytes += RtclContactBytes{}.bytes(GetParam());
+    }
+    put_log(bytes);
+    FailingDisk failing(disk);
+    const Stage failing_stage{failing, trace.log, sorter, person, lblCFG, bar};
+    std::size_t met = 0;
+    int failure = 57;
+    for (std::size_t operation = 1; failure != 0; ++operation, ++met) {
+        ASSERT_EQ(failure, 57) << operation - 1;
+        failing.fail_at(operation, Failure::device_error);
+        failure = failure_of([&] {
+            unpack_rtcl_log_to_zlog_all(
+                failing_stage,
+                {.in_name = log_path, .form = GetParam(), .strPath = "C:\\veldrana\\"},
+                rtcl_heading_of_run, outputs);
+        });
+    }
+    // The log is opened, read to its end and closed twice, four files are opened and written.
+    EXPECT_GT(met, 30U);
+}
+
+// A full disk under the .ALL does not keep rtcl_tmp.txt from being finished.
+TEST_P(RtclInOnePass, UnpackedTextIsWholeWhereTheAllCannotBeWritten) {
+    put_log(RtclContactBytes{}.bytes(GetParam()) + RtclContactBytes{}.bytes(GetParam()));
+    FailingDisk failing(disk);
+    failing.fail_writing("x_log2a.all", Failure::disk_full);
+    const Stage failing_stage{failing, trace.log, sorter, person, lblCFG, bar};
+    EXPECT_EQ(failure_of([&] {
+                  unpack_rtcl_log_to_zlog_all(
+                      failing_stage,
+                      {.in_name = log_path, .form = GetParam(), .strPath = "C:\\veldrana\\"},
+                      rtcl_heading_of_run, outputs);
+              }),
+              61);
+    const std::string tmp = disk.bytes(tmp_path);
+    EXPECT_EQ(std::count(tmp.begin(), tmp.end(), '\n'), 2);
+    EXPECT_EQ(error_lines(), std::vector<std::string>{
+                                 "エラー発生  Private Sub make_rtcl_log_to_zlog_all() ：　61"});
+}
+
+TEST_P(RtclInOnePass, MissingLogFails) {
+    EXPECT_EQ(one_after_the_other(), in_one_pass());
+    EXPECT_EQ(in_one_pass().failure, 53);
+}
+
+// Only what would be read as something else takes the longer way.
+TEST_P(RtclInOnePass, FieldsReadBackUnlessAQuoteOrALineEndIsInThem) {
+    EXPECT_TRUE(reads_back({}));
+    EXPECT_TRUE(reads_back({.counter = 0x0A220A22, .dupe = '"', .days = odd_days, .points = '\n'}));
+    EXPECT_TRUE(reads_back({.call = "a,b", .comment = "移動\r"}));
+    EXPECT_TRUE(reads_back({.kind = "QTC\""}));
+    for (const auto field : text_fields) {
+        for (const char* const text : {"\"", "\n", "a\"", " \n "}) {
+            RtclContactBytes contact;
+            contact.*field = text;
+            EXPECT_FALSE(reads_back(contact)) << text;
+        }
+    }
+    EXPECT_FALSE(reads_back({.days = std::numeric_limits<double>::infinity()}));
 }
 
 // --- what is no unpacked log ---
