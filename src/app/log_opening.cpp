@@ -5,6 +5,7 @@
 #include "app/option_handlers.h"
 #include "app/recent_logs.h"
 #include "common/text.h"
+#include "output/output_names.h"
 #include "readers/zlo_to_all.h"
 
 namespace veldrana {
@@ -38,7 +39,11 @@ void settle_dat(Program& program, InputKind kind) {
 
 void take_log(Program& program, const std::string& path) {
     ChosenLog& log = program.log;
+    MainScreen& screen = program.screen;
     log.accepted = false;
+    screen.mnuMake_z2a.enabled = false;
+    screen.enable_z2a_viewers(false);
+    screen.Option03.enable_all(true);
     log.chosen = path;
     program.disk.protect(path);
     if (path != log.in_name) {
@@ -48,7 +53,7 @@ void take_log(Program& program, const std::string& path) {
     program.refusals = {};
     log.in_name = path;
     program.run_mode = RunMode::conversion;
-    kettuka_disp_clear(program.counters, program.screen);
+    kettuka_disp_clear(program.counters, screen);
     set_out_names(program);
 }
 
@@ -69,6 +74,7 @@ void accept_log(Program& program, InputKind kind) {
     const bool is_zlo = kind == InputKind::zlo;
     screen.mnuMake_z2a.enabled = is_zlo;
     screen.enable_z2a_viewers(is_zlo && program.disk.file_exists(z2a_name(log.in_name)));
+    screen.mnuDisp_log2a.enabled = program.disk.file_exists(log2a_name(log.chosen));
     show_former_outputs(program);
     Op02_Chk(program);
     if (!is_zlo) {

@@ -171,7 +171,6 @@ void mnuMake_z2a_Click(Program& program) {
     enter_procedure(program.trace, "Private Sub mnuMake_z2a_Click()", [&] {
         make_z2a(program.stage(), program.log.in_name);
         program.screen.enable_z2a_viewers(true);
-        program.screen.lblCFG.show("z2a ﾌｧｲﾙ  作 成 終 了", colours::blue);
     });
 }
 

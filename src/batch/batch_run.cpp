@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "app/contest_choice.h"
+#include "app/log_opening.h"
 #include "app/open_other_logs.h"
 #include "app/program.h"
 #include "app/program_end.h"
@@ -79,6 +80,8 @@ class BatchProgram {
     bool open(const std::filesystem::path& log, std::optional<InputKind> kind) {
         const std::string path = disk_.program_path(log);
         const auto as = kind ? kind : kind_of_log(disk_, path);
+        const std::string text = lg8bridge_all_name(path);
+        const std::optional<FileState> before = state_of(text);
         person_.choose(path);
         open_entry(program_.screen, as.value_or(InputKind::all)).press();
         if (program_.ended()) {
@@ -95,10 +98,7 @@ class BatchProgram {
                              << '\n';
             return false;
         }
-        if (as == InputKind::lg8) {
-            wait_for(lg8bridge_all_name(path));
-        }
-        return true;
+        return as != InputKind::lg8 || wait_for(text, before);
     }
 
     // Picks the contest with that data file in the contest dialog and confirms it; false if there
@@ -138,23 +138,54 @@ class BatchProgram {
         return output_.results.good();
     }
 
-    // Makes the .ALL text of the open log, and tells its path.
-    bool make_z2a() {
-        program_.screen.mnuMake_z2a.press();
-        if (program_.ended()) {
-            return false;
+    // Makes the .ALL text of a binary log, and tells its path; nobody is asked about its contest.
+    bool make_text_of(const std::filesystem::path& log) {
+        const std::string path = disk_.program_path(log);
+        std::string text;
+        program_.event([&] {
+            take_log(program_, path);
+            text = make_z2a(program_.stage(), path);
+        });
+        if (!program_.ended()) {
+            output_.results << text << '\n' << std::flush;
         }
-        output_.results << z2a_name(program_.log.in_name) << '\n' << std::flush;
-        return output_.results.good();
+        return !program_.ended() && output_.results.good();
     }
 
   private:
-    // A person would look whether the converter is done; the batch program gives it a while.
-    void wait_for(const std::string& path) {
-        constexpr std::chrono::milliseconds step{50};
-        for (int steps = 0; steps < 200 && !disk_.file_exists(path); ++steps) {
+    // A file as far as one can see whether it is written.
+    struct FileState {
+        std::uint64_t size;
+        std::string time;
+        friend bool operator==(const FileState&, const FileState&) = default;
+    };
+
+    std::optional<FileState> state_of(const std::string& path) {
+        if (!disk_.file_exists(path)) {
+            return std::nullopt;
+        }
+        return FileState{disk_.size(path), date_time_text(disk_.modified(path))};
+    }
+
+    // A person would look whether the converter is done; here its text has to be new and to stay as
+    // it is for a while.
+    bool wait_for(const std::string& text, const std::optional<FileState>& before) {
+        constexpr std::chrono::milliseconds step{100};
+        constexpr int longest = 150;  // steps
+        constexpr int settled = 5;
+        std::optional<FileState> last;
+        int unchanged = 0;
+        for (int steps = 0; steps < longest && unchanged < settled; ++steps) {
+            const std::optional<FileState> now = state_of(text);
+            const bool is_new = now && now != before;
+            unchanged = is_new && now == last ? unchanged + 1 : 0;
+            last = now;
             processes_.sleep(step);
         }
+        if (unchanged < settled) {
+            output_.messages << "変換プログラムの結果ができません: " << text << '\n';
+        }
+        return unchanged >= settled;
     }
 
     bool confirm(frmCon_sel& dialog, const std::string& Dat_name) {
@@ -226,24 +257,17 @@ ExitStatus ended_with(const Program& program, ExitStatus otherwise) {
     return program.ended() == ProgramEnd::Cause::reported ? exit_reported : otherwise;
 }
 
-// Starts the program, enters what was set and opens the log; nothing if all went well.
-std::optional<ExitStatus> prepare(BatchProgram& batch, const BatchOptions& options,
-                                  const std::filesystem::path& log, std::optional<InputKind> kind) {
+// Starts the program and enters what was set; nothing if all went well.
+std::optional<ExitStatus> start(BatchProgram& batch, const BatchOptions& options) {
     if (!batch.knows_controls_of(options)) {
         return exit_usage;
     }
-    const Program& program = batch.program();
     if (!batch.start()) {
-        return ended_with(program, exit_refused);
+        return ended_with(batch.program(), exit_refused);
     }
     if (!batch.enter(options)) {
         batch.end();
-        return ended_with(program, exit_usage);
-    }
-    if (!batch.open(log, kind)) {
-        const ExitStatus status = ended_with(program, exit_refused);
-        batch.end();
-        return status;
+        return ended_with(batch.program(), exit_usage);
     }
     return std::nullopt;
 }
@@ -253,10 +277,15 @@ std::optional<ExitStatus> prepare(BatchProgram& batch, const BatchOptions& optio
 ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
                    const BatchOutput& output) {
     BatchProgram batch(options, output);
-    if (const auto ended = prepare(batch, options, command.log, command.kind)) {
+    if (const auto ended = start(batch, options)) {
         return *ended;
     }
     Program& program = batch.program();
+    if (!batch.open(command.log, command.kind)) {
+        const ExitStatus status = ended_with(program, exit_refused);
+        batch.end();
+        return status;
+    }
     if (!command.contest.empty() && program.screen.Option02.index != 2) {
         output.messages << "--contest は --set Option02=2 と共に使います。\n";
         batch.end();
@@ -288,10 +317,10 @@ ExitStatus convert(const BatchOptions& options, const ConvertCommand& command,
 ExitStatus z2a(const BatchOptions& options, const std::filesystem::path& log,
                const BatchOutput& output) {
     BatchProgram batch(options, output);
-    if (const auto ended = prepare(batch, options, log, InputKind::zlo)) {
+    if (const auto ended = start(batch, options)) {
         return *ended;
     }
-    const bool made = batch.make_z2a();
+    const bool made = batch.make_text_of(log);
     batch.end();
     return made ? exit_done : exit_reported;
 }

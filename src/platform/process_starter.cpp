@@ -11,6 +11,7 @@
 #else
 #include <array>
 #include <cerrno>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -41,12 +42,20 @@ void HostProcessStarter::reap() {}
 
 namespace {
 
-// What a program is started with: nothing of this one's input, and its own folder.
+// What a program is started with: nothing of this one's input and results, whose messages it
+// shares, and its own folder.
 class FileActions {
   public:
     explicit FileActions(const std::filesystem::path& folder) {
-        if (posix_spawn_file_actions_init(&actions_) != 0 ||
-            posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()) != 0) {
+        if (posix_spawn_file_actions_init(&actions_) != 0) {
+            throw RunTimeError(Failure::out_of_memory);
+        }
+        const bool added =
+            posix_spawn_file_actions_addopen(&actions_, 0, "/dev/null", O_RDONLY, 0) == 0 &&
+            posix_spawn_file_actions_adddup2(&actions_, 2, 1) == 0 &&
+            posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()) == 0;
+        if (!added) {
+            posix_spawn_file_actions_destroy(&actions_);
             throw RunTimeError(Failure::out_of_memory);
         }
     }

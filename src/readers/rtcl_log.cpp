@@ -316,10 +316,10 @@ class RecordLine {
     RtclFields fields_;  // as they stand in the line
 };
 
-// A frequency in kHz with a point: "       .  0" to "5600000.000", and longer. The same rounded.
-class FrequencyTexts {
+// A frequency in kHz with a point: "       .  0" to "5600000.000", and longer.
+class FrequencyText {
   public:
-    explicit FrequencyTexts(std::uint64_t hertz) noexcept : rounded_((hertz + 500) / 1000) {
+    explicit FrequencyText(std::uint64_t hertz) noexcept {
         std::array<char, 20> digits;
         const char* const end =
             std::to_chars(digits.data(), digits.data() + digits.size(), hertz).ptr;
@@ -335,12 +335,10 @@ class FrequencyTexts {
     }
 
     std::string_view text() const noexcept { return {text_.data(), size_}; }
-    std::uint64_t rounded() const noexcept { return rounded_; }
 
   private:
     std::array<char, 24> text_;
     std::size_t size_;
-    std::uint64_t rounded_;
 };
 
 // The date and time of the records. The date is kept, since most records are of the day of the one
@@ -415,6 +413,8 @@ MessageBox rtcl_refusal(RtclCheck::Verdict verdict, RtclForm form, std::string_v
 
 std::uint64_t RtclFrequency::hertz(std::uint32_t counter, std::string_view band) noexcept {
     const BandRow* const band_row = row_of_band(band);
+    way_ = 0;
+    divider_ = 1;
     if (counter == 0) {
         base_ = band_row != nullptr ? band_row->base : base_;
         return base_;
@@ -428,8 +428,9 @@ std::uint64_t RtclFrequency::hertz(std::uint32_t counter, std::string_view band)
         return base_;
     }
     const std::uint64_t factor = band_row != nullptr ? band_row->factor : 1;
-    const std::uint64_t way = (counter - row->threshold) * factor;
-    return base_ + (2 * way + row->divider) / (2 * row->divider);
+    way_ = (counter - row->threshold) * factor;
+    divider_ = row->divider;
+    return base_ + (2 * way_ + divider_) / (2 * divider_);
 }
 
 unsigned rtcl_number(std::uint8_t byte) noexcept {
@@ -473,7 +474,7 @@ bool RtclUnpacker::Work::unpack(std::string_view record) {
     }
     moment.take(double_at(record, layout.days));
     char* to = line.begin(record, layout);
-    const FrequencyTexts khz(
+    const FrequencyText khz(
         counted.hertz(double_word_at(record, layout.counter), line.trimmed<layout.band>()));
     const bool is_dupe = rtcl_number(byte_at(record, layout.dupe)) > 0;
     to = line.add<layout.kind>(kind, to);
@@ -482,7 +483,7 @@ bool RtclUnpacker::Work::unpack(std::string_view record) {
     to = line.add(time, moment.hhmmss(), to);
     to = line.add<layout.band>(band_again, to);
     to = line.add(frequency, khz.text(), to);
-    to = line.add(rounded_frequency, khz.rounded(), to);
+    to = line.add(rounded_frequency, counted.rounded_kilohertz(), to);
     to = line.add<layout.mode>(mode, to);
     to = line.add<layout.second_mode>(second_mode, to);
     to = line.add<layout.call>(call, to);

@@ -90,8 +90,17 @@ class RtclFrequency {
     // lower edge of that band. 0 Hz where no record has had a base yet.
     std::uint64_t hertz(std::uint32_t counter, std::string_view band) noexcept;
 
+    // The last frequency in kHz, rounded up from a half; from the counter itself, not from whole
+    // Hz.
+    std::uint64_t rounded_kilohertz() const noexcept {
+        return (base_ * divider_ + way_ + 500 * divider_) / (1000 * divider_);
+    }
+
   private:
     std::uint64_t base_ = 0;
+    // What the counter adds to the base, in parts of a Hz.
+    std::uint64_t way_ = 0;
+    std::uint64_t divider_ = 1;
 };
 
 // A number read from a byte in the way of the logger's tools: its decimal digits taken for

@@ -231,7 +231,7 @@ TEST_F(ScriptedBridge, WrongNameGivesTheBoxAndWritesNothing) {
     }
 }
 
-// No file at all is passed over in silence.
+// An empty answer ends in no ".lg8" either.
 TEST_F(ScriptedBridge, NoAnswerIsAWrongNameToo) {
     open("");
     ASSERT_THAT(kit.person.boxes, SizeIs(1));

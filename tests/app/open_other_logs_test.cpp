@@ -543,7 +543,7 @@ TEST_F(OpenOtherLogs, RefusedRtclLogKeepsItsPathAndCannotBeStarted) {
     EXPECT_FALSE(screen.tool_convert.enabled);
 }
 
-// Any option that looks at readiness offers the start again.
+// Options look at readiness too.
 TEST_F(OpenOtherLogs, RefusedRtclLogCannotBeStartedBehindAnOptionEither) {
     choose(screen.mnuOpen_rtcl_log_set_new430, "C:\\log\\v4.log");
     screen.Option02.index = 1;

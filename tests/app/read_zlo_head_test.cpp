@@ -293,7 +293,7 @@ TEST_F(ReadZloHead, TelecomPartyHasNoBoxAndKeepsItsFlag) {
     EXPECT_TRUE(screen.cmdStart.enabled);
 }
 
-// The reading of a heading with a name forgets all that was waved through, so it does come again.
+// Also where the heading is read again for the same log.
 TEST_F(ReadZloHead, QuestionThatWasWavedThroughStaysAwayUntilTheNextLog) {
     kit.person.answers = {Answer::retry};
     open("DXコンテスト");

@@ -115,6 +115,17 @@ TEST_F(RtclFile, DialogNamesFolderAndForm) {
               "　C:\\log\\　のＲＴＣＬ ｖｅｒ　４３０以降　＊．ｌｏｇ ファイルを  開く ....");
 }
 
+TEST(RtclFrequencyRounding, KilohertzAreRoundedFromTheCounterNotFromWholeHertz) {
+    RtclFrequency frequency;
+    // 12,499.5 Hz above 7 MHz: the Hz go up, the kHz do not.
+    EXPECT_EQ(frequency.hertz(1521741824 + 12499 * 64 + 32, "7"), 7012500U);
+    EXPECT_EQ(frequency.rounded_kilohertz(), 7012U);
+    EXPECT_EQ(frequency.hertz(1521741824 + 12500 * 64, "7"), 7012500U);
+    EXPECT_EQ(frequency.rounded_kilohertz(), 7013U);
+    EXPECT_EQ(frequency.hertz(0, "7"), 7000000U);
+    EXPECT_EQ(frequency.rounded_kilohertz(), 7000U);
+}
+
 TEST_F(RtclFile, MissingFileFails) {
     disk.put_folder("C:\\log");
     EXPECT_EQ(failure_of([&] { chk_log(stage, log_path, RtclForm::from_430); }), 53);
