@@ -17,10 +17,10 @@ std::string value_of(const Control& control) {
         return std::to_string(group->index);
     }
     if (const auto* const text = dynamic_cast<const TextBox*>(&control)) {
-        return text->text;
+        return text->text.get();
     }
     if (const auto* const label = dynamic_cast<const Label*>(&control)) {
-        return label->caption;
+        return label->caption.get();
     }
     if (const auto* const list = dynamic_cast<const ListBox*>(&control)) {
         return std::to_string(list->index);

@@ -27,6 +27,8 @@ class RecentEntry : public MenuEntry {
     RecentEntry(Form& form, std::string name) : MenuEntry(form, std::move(name), {}) {}
 };
 
+using RecentEntries = ControlArray<RecentEntry, 8>;
+
 struct Menu {
     MenuEntry* entry = nullptr;  // null: a line between entries
     std::vector<Menu> below = {};
@@ -181,7 +183,7 @@ struct MainScreen : WindowForm {
     MenuEntry mnu_rtcl_new4{*this, "mnu_rtcl_new4", "RTCL ( ver 4.30 より前 ) => txt , all 作成"};
     MenuEntry mnu_rtcl_new430{*this, "mnu_rtcl_new430", "RTCL ( ver 4.30 以降 ) => txt , all 作成"};
     MenuEntry mnuRecentHead{*this, "mnuRecentHead", "最近のログ"};
-    ControlArray<RecentEntry, 8> mnuRecent{*this, "mnuRecent"};
+    RecentEntries mnuRecent{*this, "mnuRecent"};
     MenuEntry mnuMake_z2a{*this, "mnuMake_z2a", "＊．zLo  => ＊．all 作成 "};
     MenuEntry mnuDisp_z2a{*this, "mnuDisp_z2a", "＊．zLo => ＊．all 表示"};
     MenuEntry mnuDisp_log2a{*this, "mnuDisp_log2a", "＊．log => ＊．all 表示"};

@@ -79,7 +79,7 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.tool_make_ini, write_options);
     attach(screen.cmdDisp_dat2, cmdDisp_dat_Click);
     attach(screen.mnuGet_Value, mnuGet_Value_Click);
-    for (std::size_t i = 0; i < screen.mnuRecent.size(); ++i) {
+    for (std::size_t i = 0; i < RecentEntries::size(); ++i) {
         screen.mnuRecent[i].Click = [this, i] { event([this, i] { mnuRecent_Click(*this, i); }); };
     }
     attach_viewers(*this);

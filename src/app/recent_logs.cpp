@@ -24,7 +24,7 @@ std::vector<std::string> shown_logs(const MainScreen& screen) {
 }
 
 void show(MainScreen& screen, std::vector<std::string> logs) {
-    logs.resize(decltype(screen.mnuRecent)::size());
+    logs.resize(RecentEntries::size());
     for (std::size_t i = 0; i < logs.size(); ++i) {
         screen.mnuRecent[i].visible = !logs[i].empty();
         screen.mnuRecent[i].caption = logs[i];
@@ -52,7 +52,7 @@ void load_recent_logs(Program& program) {
         if (program.disk.file_exists(list_path(program))) {
             TextInput input(program.disk, list_path(program));
             for (std::string_view line;
-                 logs.size() < program.screen.mnuRecent.size() && input.next_line(line);) {
+                 logs.size() < RecentEntries::size() && input.next_line(line);) {
                 logs.emplace_back(line);
             }
         }
@@ -66,7 +66,7 @@ void note_recent_log(Program& program, const std::string& path) {
     std::vector<std::string> logs = shown_logs(program.screen);
     std::erase(logs, path);
     logs.insert(logs.begin(), path);
-    logs.resize(std::min(logs.size(), program.screen.mnuRecent.size()));
+    logs.resize(std::min(logs.size(), RecentEntries::size()));
     show(program.screen, logs);
     keep(program, logs);
 }

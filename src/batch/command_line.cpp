@@ -77,6 +77,7 @@ void declare(CLI::App& app, Words& words) {
     convert->add_option("--contest", words.contest,
                         "個別 DAT のファイル名でコンテストを選ぶ (Option02=2 の時)");
     std::vector<std::string> names;
+    names.reserve(kinds.size());
     for (const auto& [name, kind] : kinds) {
         names.push_back(name);
     }
