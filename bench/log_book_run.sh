@@ -13,18 +13,7 @@ cp -r samples/{veldrana,mas,yubin} "$work"
 mkdir "$work/hamlog"
 book="$work/hamlog/Hamlog.hdb"
 
-best() {
-    python3 - "$rounds" "$@" <<'PY'
-import subprocess, sys, time
-best = None
-for _ in range(int(sys.argv[1])):
-    start = time.perf_counter()
-    subprocess.run(sys.argv[2:], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
-    taken = time.perf_counter() - start
-    best = taken if best is None else min(best, taken)
-print(f"{best:.3f}")
-PY
-}
+source bench/best.sh
 
 python3 bench/make_log_book.py 1000000 "$book"
 reading=$(for _ in $(seq "$rounds"); do build/bin/veldrana-read-log-book "$book"; done | sort -g | head -1)

@@ -44,18 +44,7 @@ with open(cfg, "w", encoding="cp932", newline="") as file:
     file.write("\r\n".join(lines))
 PY
 
-best() {
-    python3 - "$rounds" "$@" <<'PY'
-import subprocess, sys, time
-best = None
-for _ in range(int(sys.argv[1])):
-    start = time.perf_counter()
-    subprocess.run(sys.argv[2:], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
-    taken = time.perf_counter() - start
-    best = taken if best is None else min(best, taken)
-print(f"{best:.4f}")
-PY
-}
+source bench/best.sh
 
 without=(--set Option02=0 --set Option04=0 --set Check03=0 --set Check14=0)
 with=(--set Option02=2 --set Option04=1 --set Check03=1 --set Check14=1 --set Check7=1)

@@ -13,19 +13,7 @@ trap 'rm -rf "$work"' EXIT
 cp -r samples/{veldrana,mas,yubin} "$work"
 log="$work/x.all"
 
-# The best time of a command in seconds.
-best() {
-    python3 - "$rounds" "$@" <<'PY'
-import subprocess, sys, time
-best = None
-for _ in range(int(sys.argv[1])):
-    start = time.perf_counter()
-    subprocess.run(sys.argv[2:], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
-    taken = time.perf_counter() - start
-    best = taken if best is None else min(best, taken)
-print(f"{best:.3f}")
-PY
-}
+source bench/best.sh
 
 # The first start only makes the files of the settings.
 python3 bench/make_log.py 10 "$log"

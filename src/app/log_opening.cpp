@@ -31,7 +31,6 @@ void settle_dat(Program& program, InputKind kind) {
     if (screen.Option02.index == 2 && !has_dat(program)) {
         ask_for_dat_file(screen);
         screen.Option03.index = by_hand;
-        screen.Option03.enable(by_hand, true);
     }
 }
 
@@ -43,6 +42,7 @@ void take_log(Program& program, const std::string& path) {
     log.accepted = false;
     screen.mnuMake_z2a.enabled = false;
     screen.enable_z2a_viewers(false);
+    screen.mnuDisp_log2a.enabled = program.disk.file_exists(log2a_name(path));
     screen.Option03.enable_all(true);
     log.chosen = path;
     program.disk.protect(path);
@@ -74,7 +74,6 @@ void accept_log(Program& program, InputKind kind) {
     const bool is_zlo = kind == InputKind::zlo;
     screen.mnuMake_z2a.enabled = is_zlo;
     screen.enable_z2a_viewers(is_zlo && program.disk.file_exists(z2a_name(log.in_name)));
-    screen.mnuDisp_log2a.enabled = program.disk.file_exists(log2a_name(log.chosen));
     show_former_outputs(program);
     Op02_Chk(program);
     if (!is_zlo) {

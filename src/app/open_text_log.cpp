@@ -56,8 +56,6 @@ void open_text_log(Program& program, const std::string& path) {
     const bool needs_year = log.f_type == InputKind::txt;
     screen.txtYYYY.enabled = needs_year;
     screen.Frame14.enabled = needs_year;
-    screen.mnuMake_z2a.enabled = false;
-    screen.enable_z2a_viewers(false);
     // The label shows the log since set_out_names, or that it was refused.
     show_former_outputs(program);
     Op02_Chk(program);

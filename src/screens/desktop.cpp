@@ -41,7 +41,7 @@ bool Desktop::start() {
     if (program_.ended() || program_.start.reached != Start::main_screen) {
         return false;
     }
-    window_ = std::make_unique<MainWindow>(program_, pump_);
+    window_ = std::make_unique<MainWindow>(program_, person_, pump_);
     person_.set_parent(window_.get());
     return true;
 }

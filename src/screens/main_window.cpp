@@ -15,11 +15,18 @@
 #include "app/open_other_logs.h"
 #include "app/program_end.h"
 #include "app/slot_lengths.h"
-#include "screens/qt_person.h"
 #include "screens/slot_widgets.h"
 
 namespace veldrana {
 namespace {
+
+// A head of a menu, bound to its entry.
+QMenu* bound_head(ViewBuilder& build, QMenu* head, MenuEntry& entry) {
+    head->setToolTipsVisible(true);
+    head->menuAction()->setObjectName(to_qt(entry.name()));
+    build.binder().bind(entry, head->menuAction());
+    return head;
+}
 
 void add_menu(ViewBuilder& build, QMenu* parent, const std::vector<Menu>& entries) {
     for (const Menu& entry : entries) {
@@ -28,11 +35,8 @@ void add_menu(ViewBuilder& build, QMenu* parent, const std::vector<Menu>& entrie
         } else if (entry.below.empty()) {
             parent->addAction(build.action(*entry.entry, parent));
         } else {
-            QMenu* const below = parent->addMenu(QString());
-            below->setToolTipsVisible(true);
-            below->menuAction()->setObjectName(to_qt(entry.entry->name()));
-            build.binder().bind(*entry.entry, below->menuAction());
-            add_menu(build, below, entry.below);
+            add_menu(build, bound_head(build, parent->addMenu(QString()), *entry.entry),
+                     entry.below);
         }
     }
 }
@@ -67,8 +71,8 @@ QGridLayout* rank_table(ViewBuilder& build, MainScreen& screen) {
 
 }  // namespace
 
-MainWindow::MainWindow(Program& program, Pump& pump)
-    : program_(program), screen_(program.screen), pump_(pump), build_(pump) {
+MainWindow::MainWindow(Program& program, const QtPerson& person, Pump& pump)
+    : program_(program), person_(person), screen_(program.screen), pump_(pump), build_(pump) {
     setAcceptDrops(true);
     make_menu();
     make_toolbar();
@@ -100,13 +104,10 @@ void MainWindow::make_menu() {
     for (const Menu& entry : screen_.menu()) {
         if (entry.below.empty()) {
             menuBar()->addAction(build_.action(*entry.entry, this));
-            continue;
+        } else {
+            add_menu(build_, bound_head(build_, menuBar()->addMenu(QString()), *entry.entry),
+                     entry.below);
         }
-        QMenu* const head = menuBar()->addMenu(QString());
-        head->setToolTipsVisible(true);
-        head->menuAction()->setObjectName(to_qt(entry.entry->name()));
-        build_.binder().bind(*entry.entry, head->menuAction());
-        add_menu(build_, head, entry.below);
     }
 }
 
@@ -428,13 +429,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    auto* const person = dynamic_cast<QtPerson*>(&program_.person);
-    if (person == nullptr || event->mimeData()->urls().isEmpty()) {
+    if (event->mimeData()->urls().isEmpty()) {
         return;
     }
     const QString file = event->mimeData()->urls().front().toLocalFile();
     event->acceptProposedAction();
-    pump_.run([&] { program_.event([&] { open_log(program_, person->program_path(file)); }); });
+    pump_.run([&] { program_.event([&] { open_log(program_, person_.program_path(file)); }); });
 }
 
 void MainWindow::look_under_pointer() {

@@ -5,13 +5,14 @@
 #include <QTimer>
 
 #include "app/program.h"
+#include "screens/qt_person.h"
 #include "screens/view_builder.h"
 
 namespace veldrana {
 
 class MainWindow : public QMainWindow {
   public:
-    MainWindow(Program& program, Pump& pump);
+    MainWindow(Program& program, const QtPerson& person, Pump& pump);
     ~MainWindow() override;
 
   protected:
@@ -44,6 +45,7 @@ class MainWindow : public QMainWindow {
     void look_under_pointer();
 
     Program& program_;
+    const QtPerson& person_;
     MainScreen& screen_;
     Pump& pump_;
     ViewBuilder build_;

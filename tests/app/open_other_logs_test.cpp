@@ -255,6 +255,26 @@ TEST_P(OpenEachKind, OnlyABinaryLogOfZlogCanBeMadeATextOf) {
     EXPECT_FALSE(screen.mnuDisp_z2a.enabled);
 }
 
+TEST_F(OpenOtherLogs, RefusedLogIsNotMadeATextOf) {
+    kit.put_text("C:\\log\\none.cbr", "no heading\r\n");
+    for (MenuEntry* const entry : {&screen.mnuOpen_cbr, &screen.mnuOpen_rtcl_log_set_new4}) {
+        choose(screen.mnuOpen_z, "C:\\log\\y.zlo");
+        ASSERT_TRUE(screen.mnuMake_z2a.enabled);
+        choose(*entry, "C:\\log\\none.cbr");
+        EXPECT_FALSE(screen.mnuMake_z2a.enabled);
+        EXPECT_FALSE(screen.mnuDisp_z2a.enabled);
+    }
+}
+
+TEST_F(OpenOtherLogs, BothWaysToAContestAreThereAgainBehindABinaryLog) {
+    screen.Option02.index = 2;
+    choose(screen.mnuOpen_z, "C:\\log\\x.zlo");
+    ASSERT_FALSE(screen.Option03.buttons.get()[1].enabled);
+    kit.put_text("C:\\log\\t.all", sample_all_log);
+    kit.open("C:\\log\\t.all");
+    EXPECT_TRUE(screen.Option03.buttons.get()[1].enabled);
+}
+
 // --- a log without its contest data file, where codes come from one ---
 
 class OpenWithoutDat : public OpenEachKind {};

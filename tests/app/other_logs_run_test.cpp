@@ -464,6 +464,8 @@ TEST_F(OtherLogsRun, TextOfAnRtclLogCanBeLookedAtBehindTheRun) {
 }
 
 TEST_F(OtherLogsRun, NoOtherRunOffersTheTextOfAnRtclLog) {
+    run(InputKind::log_v4, "C:\\log\\r4.log");
+    ASSERT_TRUE(screen.mnuDisp_log2a.enabled);
     for (const auto& [kind, path] : {std::pair{InputKind::cbr, "C:\\log\\c.cbr"},
                                      {InputKind::ADIF, "C:\\log\\a.adi"},
                                      {InputKind::zlo, "C:\\log\\z.zlo"},
@@ -471,6 +473,16 @@ TEST_F(OtherLogsRun, NoOtherRunOffersTheTextOfAnRtclLog) {
         run(kind, path);
         EXPECT_FALSE(screen.mnuDisp_log2a.enabled) << path;
     }
+}
+
+TEST_F(OtherLogsRun, TextOfAnRtclLogIsOfferedAsLongAsThatLogIsChosen) {
+    run(InputKind::log_v4, "C:\\log\\r4.log");
+    kit.put_text("C:\\log\\x.all", sample_all_log);
+    kit.open("C:\\log\\x.all");
+    EXPECT_FALSE(screen.mnuDisp_log2a.enabled);
+    kit.person.files = {"C:\\log\\r4.log"};
+    screen.mnuOpen_rtcl_log_set_new4.press();
+    EXPECT_TRUE(screen.mnuDisp_log2a.enabled);  // that of the run before
 }
 
 TEST_F(OtherLogsRun, QtcRecordsOfAnRtclLogAreNoContacts) {

@@ -128,6 +128,26 @@ TEST_F(BatchOtherLogs, WhatIsNoRtclLogIsRefusedByItsBox) {
     EXPECT_FALSE(fs::exists(home / "rtcl_tmp.txt"));
 }
 
+// A text of two contacts, the second one written later than the first.
+TEST_F(BatchOtherLogs, TextOfASlowConverterIsTakenWhole) {
+    install_converter();
+    const std::string text = (logs / "l_lg8bridge.all").string();
+    write_bytes(home / "lg8bridge.exe", "#!/bin/sh\nhead -2 ../text.all > " + text +
+                                            "\nsleep 0.4\ntail -1 ../text.all >> " + text + "\n");
+    const ProcessResult ended = run({"convert", path("l.lg8")});
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_THAT(ended.results, StartsWith(" 今 回 の処理数\t2\n"));
+}
+
+TEST_F(BatchOtherLogs, TextOfAnEarlierConverterIsNotTakenForThisOne) {
+    install_converter();
+    const std::string all(sample_all_log);
+    write_bytes(logs / "l_lg8bridge.all", all.substr(0, all.find("2025/04/26 21:06")));
+    const ProcessResult ended = run({"convert", path("l.lg8")});
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_THAT(ended.results, StartsWith(" 今 回 の処理数\t2\n"));
+}
+
 TEST_F(BatchOtherLogs, WhatIsNoCtestwinNameIsRefusedByItsBox) {
     install_converter();
     const ProcessResult ended = run({"convert", path("c.log"), "--kind", "lg8"});
@@ -226,6 +246,14 @@ TEST_F(BatchOtherLogs, TextOfZ2aIsConvertedAsTheLogIs) {
     const ProcessResult ended = run({"convert", path("z_z2a.all")});
     EXPECT_EQ(ended.status, 0) << ended.messages;
     EXPECT_THAT(ended.results, StartsWith(" 今 回 の処理数\t2\n"));
+}
+
+TEST_F(BatchOtherLogs, Z2aAsksNobodyAboutTheContest) {
+    write_bytes(logs / "unnamed.zlo", sample_zlo(""));
+    const ProcessResult ended = run({"--set", "Option02=2", "z2a", path("unnamed.zlo")});
+    EXPECT_EQ(ended.status, 0) << ended.messages;
+    EXPECT_EQ(ended.messages, "");
+    EXPECT_TRUE(fs::exists(logs / "unnamed_z2a.all"));
 }
 
 TEST_F(BatchOtherLogs, Z2aOfAMissingLogEndsInTheReport) {

@@ -50,6 +50,21 @@ TEST_F(ProcessStarterTest, ProgramRunsInItsOwnFolder) {
     EXPECT_EQ(read_bytes(told), fs::canonical(scratch.path() / "bin").string() + "\n");
 }
 
+// What is read from nothing ends at once; what is written stands among the messages.
+TEST_F(ProcessStarterTest, ProgramSharesNeitherInputNorResults) {
+    put_script("tool.exe", "cat > read\necho from the tool\nmv read told\n");
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    starter.start("C:\\tool.exe");
+    const bool came = comes(scratch.path() / "told");
+    const std::string results = testing::internal::GetCapturedStdout();
+    const std::string messages = testing::internal::GetCapturedStderr();
+    ASSERT_TRUE(came);
+    EXPECT_EQ(read_bytes(scratch.path() / "told"), "");
+    EXPECT_EQ(results, "");
+    EXPECT_EQ(messages, "from the tool\n");
+}
+
 TEST_F(ProcessStarterTest, NameIsFoundInEitherCase) {
     put_script("bin/Tool.exe", ": > told\n");
     starter.start("c:\\BIN\\tool.EXE");
