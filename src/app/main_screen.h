@@ -136,6 +136,7 @@ struct MainScreen : WindowForm {
     TextBox txtRmks1{*this, "txtRmks1"};
     TextBox txtRmks2{*this, "txtRmks2"};
     TextBox txtOp_name{*this, "txtOp_name"};
+    Frame Frame13{*this, "Frame13"};  // the chosen log and its results
     Frame Frame14{*this, "Frame14"};
     TextBox txtYYYY{*this, "txtYYYY"};
     CommandButton cmdNow{*this, "cmdNow", "今年を取得"};

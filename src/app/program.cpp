@@ -42,7 +42,6 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.mnuOpen_all_txt_set, mnuOpen_all_txt_set_Click);
     attach(screen.mnuOpen_z, mnuOpen_z_Click);
     attach(screen.mnuOpen_z_set, mnuOpen_z_set_Click);
-    attach(screen.tool_open_z, mnuOpen_z_set_Click);
     attach(screen.mnuOpen_cbr, FileOpen_cbr);
     attach(screen.mnuOpen_ADIF, FileOpen_ADIF);
     attach(screen.mnuOpen_Ctestwin_lg8, mnuOpen_Ctestwin_lg8_Click);
@@ -58,7 +57,14 @@ Program::Program(const Ports& outside, std::string_view program_folder,
     attach(screen.mnu_rtcl_new430, mnu_rtcl_new_Click);
     attach(screen.mnuMake_z2a, mnuMake_z2a_Click);
     attach(screen.mnuOpen_con_n, mnuOpen_con_n_Click);
-    attach(screen.tool_open, mnuOpen_all_txt_set_Click);
+    attach(screen.tool_open, [](Program& program) {
+        program.screen.Frame13.select();
+        mnuOpen_all_txt_set_Click(program);
+    });
+    attach(screen.tool_open_z, [](Program& program) {
+        program.screen.Frame13.select();
+        mnuOpen_z_set_Click(program);
+    });
     attach(screen.cmdStart, cmdStart_Click);
     attach(screen.tool_convert, cmdStart_Click);
     attach(screen.tool_end, End_Click);

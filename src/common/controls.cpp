@@ -53,6 +53,10 @@ void Label::show(std::string_view text, Colour colour) {
 Frame::Frame(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)), caption(*this, std::move(text)) {}
 
+void Frame::select() {
+    selections = selections + 1;
+}
+
 CommandButton::CommandButton(Form& form, std::string name, std::string text)
     : Control(form, std::move(name)), caption(*this, std::move(text)) {}
 

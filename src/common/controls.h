@@ -131,10 +131,11 @@ void Property<T>::tell() {
 struct WindowPlacement {
     enum State { normal = 0, minimised = 1, maximised = 2 };
     int state = normal;
-    float left = 0;
-    float top = 0;
-    float width = 0;
-    float height = 0;
+    // A side that nobody has told is the view's own.
+    std::optional<float> left = {};
+    std::optional<float> top = {};
+    std::optional<float> width = {};
+    std::optional<float> height = {};
     friend bool operator==(const WindowPlacement&, const WindowPlacement&) = default;
 };
 
@@ -172,6 +173,10 @@ class Frame : public Control {
   public:
     Frame(Form& form, std::string name, std::string text = {});
     Property<std::string> caption;
+    // How often it has been selected: the view brings it into sight each time.
+    Property<unsigned> selections{*this, 0};
+
+    void select();
 };
 
 // What a person presses: a button of a form, of a toolbar, an entry of a menu.

@@ -8,6 +8,7 @@
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollArea>
 #include <QSignalBlocker>
 
 namespace veldrana {
@@ -22,6 +23,22 @@ double luminance(const QColor& colour) {
            0.0722 * linear(colour.blueF());
 }
 
+// From 1, none, to 21, that of black and white.
+double contrast(const QColor& one, const QColor& other) {
+    constexpr double stray_light = 0.05;
+    const double a = luminance(one) + stray_light;
+    const double b = luminance(other) + stray_light;
+    return std::max(a, b) / std::min(a, b);
+}
+
+QColor mixed(const QColor& one, const QColor& other, double part_of_other) {
+    const auto mix = [part_of_other](float a, float b) {
+        return static_cast<float>((1 - part_of_other) * a + part_of_other * b);
+    };
+    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                            mix(one.blueF(), other.blueF()));
+}
+
 void show_common(const Control& control, QWidget* widget) {
     widget->setVisible(control.visible);
     widget->setEnabled(control.enabled);
@@ -30,10 +47,25 @@ void show_common(const Control& control, QWidget* widget) {
 
 void colour_text(QWidget* widget, Colour colour) {
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::WindowText, readable(colour));
-    palette.setColor(QPalette::ButtonText, readable(colour));
-    palette.setColor(QPalette::Text, readable(colour));
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::Text, QPalette::Base}};
+    for (const auto& [text, ground] : roles) {
+        // Greyed out it stays, as the toolkit shows what is disabled.
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            palette.setColor(group, text, readable(colour, palette.color(group, ground)));
+        }
+    }
     widget->setPalette(palette);
+}
+
+void bring_into_sight(QWidget* widget) {
+    for (QWidget* outer = widget->parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
+        if (auto* const area = qobject_cast<QScrollArea*>(outer)) {
+            area->ensureWidgetVisible(widget);
+        }
+    }
 }
 
 // An ampersand in a caption is a character, not a short cut.
@@ -51,14 +83,20 @@ std::string from_qt(const QString& text) {
     return text.toStdString();
 }
 
-QColor readable(Colour colour) {
+QColor readable(Colour colour, const QColor& background) {
     constexpr int red = 0xFF;
     constexpr unsigned byte = 8;
-    constexpr double darkest_grey = 0.18;  // a contrast of 4.5 against white
-    QColor shown(static_cast<int>(colour.bgr) & red, static_cast<int>(colour.bgr >> byte) & red,
-                 static_cast<int>(colour.bgr >> 2 * byte) & red);
-    while (luminance(shown) > darkest_grey) {
-        shown = shown.darker(115);
+    constexpr double least_contrast = 4.5;
+    constexpr double step = 0.05;
+    const QColor told(static_cast<int>(colour.bgr) & red,
+                      static_cast<int>(colour.bgr >> byte) & red,
+                      static_cast<int>(colour.bgr >> 2 * byte) & red);
+    const QColor away(
+        contrast(Qt::black, background) > contrast(Qt::white, background) ? Qt::black : Qt::white);
+    QColor shown = told;
+    for (double part = step; part <= 1 && contrast(shown, background) < least_contrast;
+         part += step) {
+        shown = mixed(told, away, part);
     }
     return shown;
 }
@@ -81,7 +119,15 @@ void Binder::bind(Label& control, QLabel* widget) {
 }
 
 void Binder::bind(Frame& control, QGroupBox* widget) {
-    follow(control, [&control, widget] { show_common(control, widget); });
+    const auto seen = std::make_shared<unsigned>(control.selections);
+    follow(control, [&control, widget, seen] {
+        show_common(control, widget);
+        if (*seen != control.selections) {
+            *seen = control.selections;
+            widget->setFocus();
+            bring_into_sight(widget);
+        }
+    });
 }
 
 void Binder::bind(CommandButton& control, QPushButton* widget) {
@@ -146,19 +192,36 @@ void Binder::bind(OptionGroup& control, const std::vector<QRadioButton*>& widget
 }
 
 void Binder::bind(TextBox& control, QLineEdit* widget) {
-    follow(control, [&control, widget] {
+    // Set while the person's text is on its way to the form, which still holds the former one.
+    const auto typing = std::make_shared<bool>(false);
+    follow(control, [&control, widget, typing] {
+        if (*typing) {
+            return;
+        }
         show_common(control, widget);
         colour_text(widget, control.fore_colour);
         widget->setEchoMode(control.hidden_text ? QLineEdit::Password : QLineEdit::Normal);
+        const QSignalBlocker quiet(widget);
         const QString text = to_qt(control.text.get());
         if (widget->text() != text) {
-            const QSignalBlocker quiet(widget);
             widget->setText(text);
         }
+        const auto caret = static_cast<int>(control.caret);
+        if (widget->cursorPosition() != caret) {
+            widget->setCursorPosition(caret);
+        }
     });
+    const auto tell_caret = [&control, widget, typing] {
+        *typing = true;
+        control.caret = static_cast<std::size_t>(widget->cursorPosition());
+        *typing = false;
+    };
+    QObject::connect(widget, &QLineEdit::cursorPositionChanged, widget, tell_caret);
     QObject::connect(widget, &QLineEdit::textChanged, widget,
-                     [this, &control](const QString& text) {
+                     [this, &control, tell_caret](const QString& text) {
+                         tell_caret();
                          pump_.run([&control, &text] { control.text = from_qt(text); });
+                         control.listener();  // a text that the form has put right, or its caret
                      });
 }
 
@@ -217,7 +280,8 @@ void Binder::bind(Grid& control, QTableWidget* widget) {
                     widget->setItem(row, column, item);
                 }
                 item->setText(to_qt(cell.text));
-                item->setForeground(readable(cell.fore_colour));
+                item->setForeground(
+                    readable(cell.fore_colour, widget->palette().color(QPalette::Base)));
             }
         }
     });
@@ -230,11 +294,11 @@ void Binder::bind(ProgressBar& control, QProgressBar* widget) {
     widget->setTextVisible(false);
     const auto since_last_look = std::make_shared<QElapsedTimer>();
     since_last_look->start();
-    follow(control, [&control, widget, since_last_look] {
+    follow(control, [this, &control, widget, since_last_look] {
         widget->setVisible(control.visible);
         widget->setValue(static_cast<int>(control.value * steps / control.maximum));
         if (since_last_look->elapsed() >= frame) {
-            QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            pump_.breathe();
             since_last_look->restart();
         }
     });

@@ -25,8 +25,8 @@ namespace veldrana {
 QString to_qt(std::string_view text);
 std::string from_qt(const QString& text);
 
-// A colour of a form, dark enough to be read on a window's background.
-QColor readable(Colour colour);
+// A colour of a form, dark or light enough to be read on a background: a contrast of 4.5 at least.
+QColor readable(Colour colour, const QColor& background);
 
 class Binder {
   public:

@@ -1,6 +1,7 @@
 // Owns the desktop program as a whole: the program, its ports and its windows.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "platform/host_disk.h"
 #include "screens/main_window.h"
 #include "screens/qt_person.h"
+#include "screens/viewer_beside.h"
 
 namespace veldrana {
 
@@ -41,6 +43,7 @@ class Desktop {
     Program program_;
     std::unique_ptr<QLabel> splash_;
     std::unique_ptr<MainWindow> window_;
+    std::array<std::unique_ptr<ViewerBeside>, 3> viewers_;
 };
 
 }  // namespace veldrana

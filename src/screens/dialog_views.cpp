@@ -1,7 +1,6 @@
 #include "screens/dialog_views.h"
 
 #include <QAbstractListModel>
-#include <QCloseEvent>
 #include <QHeaderView>
 #include <QListView>
 #include <QMenuBar>
@@ -9,8 +8,9 @@
 
 #include "readers/frmCon_sel.h"
 #include "readers/frmRTCL_v4.h"
+#include "screens/fonts.h"
+#include "screens/form_view.h"
 #include "screens/text_view.h"
-#include "screens/view_builder.h"
 #include "settings/frmConfig.h"
 #include "settings/frmDate.h"
 #include "viewers/frmCheck_bak_qso_mas.h"
@@ -18,87 +18,6 @@
 
 namespace veldrana {
 namespace {
-
-// A dialog around a form: its title, its place, and what its frame's close button does.
-class FormView : public QDialog {
-  public:
-    FormView(WindowForm& form, Pump& pump, QWidget* parent)
-        : QDialog(parent), build(pump), form_(form) {
-        setWindowModality(Qt::ApplicationModal);
-        const auto follow = [this] {
-            setWindowTitle(to_qt(form_.window.caption.get()).trimmed());
-            if (!form_.window.visible) {
-                hide();
-            }
-        };
-        follow();
-        form.window.listener = follow;
-    }
-    ~FormView() override { unbind(form_); }
-
-    // Runs when the window is closed by its frame or by Escape.
-    std::function<void()> leave;
-
-    // As it was left, else in a size that suits it.
-    void place(const QSize& usual) {
-        if (const auto& placement = form_.window.placement.get()) {
-            setGeometry(static_cast<int>(placement->left), static_cast<int>(placement->top),
-                        static_cast<int>(placement->width), static_cast<int>(placement->height));
-        } else {
-            resize(usual);
-        }
-        placed_ = true;
-    }
-
-    ViewBuilder build;
-
-  protected:
-    void reject() override {
-        build.pump().run([this] {
-            if (leave) {
-                leave();
-            } else {
-                form_.window.visible = false;
-            }
-        });
-    }
-    void closeEvent(QCloseEvent* event) override {
-        event->ignore();
-        reject();
-    }
-    void moveEvent(QMoveEvent* event) override {
-        QDialog::moveEvent(event);
-        tell_placement();
-    }
-    void resizeEvent(QResizeEvent* event) override {
-        QDialog::resizeEvent(event);
-        tell_placement();
-    }
-
-  private:
-    void tell_placement() {
-        if (!placed_) {
-            return;
-        }
-        const QRect place = geometry();
-        form_.window.placement = WindowPlacement{.left = static_cast<float>(place.left()),
-                                                 .top = static_cast<float>(place.top()),
-                                                 .width = static_cast<float>(place.width()),
-                                                 .height = static_cast<float>(place.height())};
-    }
-
-    WindowForm& form_;
-    bool placed_ = false;
-};
-
-QHBoxLayout* row_at_right(std::initializer_list<QPushButton*> buttons) {
-    auto* const layout = new QHBoxLayout;
-    layout->addStretch();
-    for (QPushButton* const button : buttons) {
-        layout->addWidget(button);
-    }
-    return layout;
-}
 
 std::unique_ptr<QDialog> view_of(frmDate& form, Pump& pump, QWidget* parent) {
     auto view = std::make_unique<FormView>(form, pump, parent);
@@ -135,9 +54,15 @@ std::unique_ptr<QDialog> view_of(frmCon_sel& form, Pump& pump, QWidget* parent) 
 
     QListWidget* const sample = build.list(form.List2);
     sample->setFont(fixed_font());
+    sample->setSelectionMode(QAbstractItemView::NoSelection);
+    sample->setFocusPolicy(Qt::NoFocus);
     sample->setMaximumWidth(sample->fontMetrics().horizontalAdvance(QString(18, u'0')));
     QListWidget* const contests = build.list(form.List1);
     contests->setFont(fixed_font());
+    // Long rows are looked at by scrolling.
+    contests->setUniformItemSizes(false);
+    contests->setTextElideMode(Qt::ElideNone);
+    contests->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     auto* const lists = new QHBoxLayout;
     lists->addLayout(column({caption("受信した番号"), sample}));
     QLineEdit* const search = build.edit(form.Text1, 0);
@@ -164,7 +89,7 @@ std::unique_ptr<QDialog> view_of(frmCon_sel& form, Pump& pump, QWidget* parent) 
     facts->setColumnStretch(1, 1);
 
     view->setLayout(column({
-        row({caption("入力"), build.path_label(form.lblIn_name)}, false),
+        row_with_wide(1, {caption("入力"), build.path_label(form.lblIn_name)}),
         lists,
         row({caption("ナンバーの形"), build.label(form.lblC_key)}),
         box("選択したコンテスト", facts),
@@ -182,7 +107,7 @@ std::unique_ptr<QDialog> view_of(frmDisp& form, Pump& pump, QWidget* parent) {
     view->leave = [&form] { form.mnuOK.press(); };
     auto* const bar = new QMenuBar;
     bar->addAction(build.action(form.mnuOK, bar));
-    QLayout* const layout = column({text_view(form.text())});
+    QLayout* const layout = column({new TextView(form.text())});
     layout->setMenuBar(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     view->setLayout(layout);
@@ -281,16 +206,17 @@ std::unique_ptr<QDialog> view_of(frmConfig& form, Pump& pump, QWidget* parent) {
     operator_of_station->addWidget(build.label(form.Label3), 2, 0, 1, 4);
     operator_of_station->setColumnStretch(3, 1);
 
-    view->setLayout(column({
+    auto* const whole = column({
         box("フォルダ と ファイル", column({build.label(form.lblMsg1), paths})),
         box("運用者", operator_of_station),
         box("No QSL", column({row({build.label(form.Label1), build.edit(form.Text1, 1)}),
                               build.label(form.Label2)})),
-        build.label(form.lblMsg),
-        build.label(form.lblMsg2),
-        row_at_right(
-            {build.button(form.cmdSave), build.button(form.cmdOK), build.button(form.cmdEnd)}),
-    }));
+    });
+    whole->addStretch();
+    whole->addLayout(row_with_wide(
+        0, {column({build.label(form.lblMsg), build.label(form.lblMsg2)}),
+            build.button(form.cmdSave), build.button(form.cmdOK), build.button(form.cmdEnd)}));
+    view->setLayout(whole);
     constexpr int twips_of_a_pixel = 15;
     const QSize least(frmConfig::least_width / twips_of_a_pixel,
                       frmConfig::least_height / twips_of_a_pixel);

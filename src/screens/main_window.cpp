@@ -1,24 +1,35 @@
 #include "screens/main_window.h"
 
-#include <filesystem>
+#include <map>
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHeaderView>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QStyle>
+#include <QScrollArea>
 #include <QToolBar>
 #include <QUrl>
 
 #include "app/open_other_logs.h"
 #include "app/program_end.h"
 #include "app/slot_lengths.h"
-#include "screens/slot_widgets.h"
+#include "screens/window_place.h"
 
 namespace veldrana {
 namespace {
+
+// Scrolls what does not fit, and asks for as much room as shows it whole.
+class WholeWidthArea : public QScrollArea {
+  public:
+    explicit WholeWidthArea(QWidget* shown) {
+        setWidget(shown);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setMinimumSize(320, 160);
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
 
 // A head of a menu, bound to its entry.
 QMenu* bound_head(ViewBuilder& build, QMenu* head, MenuEntry& entry) {
@@ -41,34 +52,6 @@ void add_menu(ViewBuilder& build, QMenu* parent, const std::vector<Menu>& entrie
     }
 }
 
-// A label that takes all the room beside a button.
-QHBoxLayout* stretched(QLabel* label, QPushButton* button) {
-    auto* const layout = new QHBoxLayout;
-    layout->addWidget(label, 1);
-    layout->addWidget(button);
-    return layout;
-}
-
-QGridLayout* rank_table(ViewBuilder& build, MainScreen& screen) {
-    auto* const table = new QGridLayout;
-    table->setHorizontalSpacing(24);
-    const std::vector<std::pair<QString, RankLabels*>> fields{
-        {"Name", &screen.lblName}, {"Code", &screen.lblCode}, {"QTH", &screen.lblQth}};
-    for (int rank = 0; rank < static_cast<int>(RankLabels::size()); ++rank) {
-        table->addWidget(caption(QString("第 %1 順位").arg(rank + 1)), rank + 1, 0);
-    }
-    for (std::size_t field = 0; field < fields.size(); ++field) {
-        const int place = static_cast<int>(field) + 1;
-        table->addWidget(caption(fields[field].first), 0, place);
-        for (int rank = 0; rank < static_cast<int>(RankLabels::size()); ++rank) {
-            table->addWidget(build.label((*fields[field].second)[static_cast<std::size_t>(rank)]),
-                             rank + 1, place);
-        }
-    }
-    table->setColumnStretch(4, 1);
-    return table;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Program& program, const QtPerson& person, Pump& pump)
@@ -77,12 +60,23 @@ MainWindow::MainWindow(Program& program, const QtPerson& person, Pump& pump)
     make_menu();
     make_toolbar();
 
-    auto* const tabs = new QHBoxLayout;
-    tabs->addWidget(make_run_tabs(), 1);
-    tabs->addWidget(make_source_tabs(), 1);
+    // In the order in which a run is prepared, down the left side and then the right.
+    auto* const sides = new QHBoxLayout;
+    auto* const left = column({make_files(), make_run_tabs()});
+    left->setStretch(1, 1);
+    auto* const right = column({make_source_tabs(), make_remarks()});
+    right->setStretch(0, 1);
+    sides->addLayout(left, 1);
+    sides->addLayout(right, 1);
+    auto* const options = new QWidget;
+    options->setLayout(sides);
+    sides->setContentsMargins(0, 0, 0, 0);
+    // On a small screen the options scroll; how to start and how it goes stay in sight.
+    auto* const scrolled = new WholeWidthArea(options);
+
     auto* const central = new QWidget;
-    central->setLayout(column({make_files(), tabs, make_remarks(), make_start()}));
-    central->layout()->setContentsMargins(12, 8, 12, 12);
+    central->setLayout(column({scrolled, make_start()}));
+    central->layout()->setContentsMargins(10, 4, 10, 8);
     setCentralWidget(central);
     follow_window();
 
@@ -116,257 +110,18 @@ void MainWindow::make_toolbar() {
     bar->setObjectName("Toolbar1");
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    const std::map<const ToolButton*, QKeySequence> keys{{&screen_.tool_open, {"Ctrl+O"}},
+                                                         {&screen_.tool_open_z, {"Ctrl+Shift+O"}},
+                                                         {&screen_.tool_convert, {"F5"}},
+                                                         {&screen_.tool_end, {"Ctrl+Q"}}};
     for (ToolButton* const tool : screen_.toolbar()) {
-        bar->addAction(build_.action(*tool, bar));
-    }
-}
-
-QWidget* MainWindow::make_files() {
-    auto* const table = new QGridLayout;
-    const auto add = [table](int place, const QString& title, QLabel* path,
-                             std::initializer_list<QWidget*> behind) {
-        table->addWidget(caption(title), place, 0);
-        table->addWidget(path, place, 1);
-        int column = 2;
-        for (QWidget* const widget : behind) {
-            table->addWidget(widget, place, column++);
+        QAction* const action = build_.action(*tool, bar);
+        bar->addAction(action);
+        if (const auto key = keys.find(tool); key != keys.end()) {
+            action->setShortcut(key->second);
+            action->setToolTip(action->text() + " ( " + key->second.toString() + " )");
         }
-    };
-    add(0, "入力", build_.path_label(screen_.lblIn_name),
-        {build_.button(screen_.cmdDisp_in), build_.label(screen_.lblIn_rec),
-         build_.label(screen_.lblInfo)});
-    add(1, "個別 DAT", build_.path_label(screen_.lblDatName), {build_.button(screen_.cmdDisp_dat)});
-    add(2, "結果 (contest)", build_.path_label(screen_.lblOut_name1),
-        {build_.button(screen_.cmdDisp_contest)});
-    add(3, "結果 (Hamlog)", build_.path_label(screen_.lblOut_name2),
-        {build_.button(screen_.cmdDisp_Hamlog)});
-    table->setColumnStretch(1, 1);
-    return box("ファイル", table);
-}
-
-QTabWidget* MainWindow::make_run_tabs() {
-    auto* const tabs = new QTabWidget;
-    tabs->setObjectName("SSTab1");
-    tabs->addTab(conversion_page(), "読み込み");
-    tabs->addTab(output_page(), "出力 ・ QSL");
-    tabs->addTab(member_page(), "会員検索");
-    tabs->addTab(result_page(), "結果");
-    build_.binder().bind(screen_.SSTab1, tabs);
-    const std::vector<QRadioButton*> first = build_.radios(screen_.Option2);
-    for (std::size_t i = 0; i < first.size(); ++i) {
-        tabs->widget(static_cast<int>(i))->layout()->addWidget(first[i]);
     }
-    return tabs;
-}
-
-QTabWidget* MainWindow::make_source_tabs() {
-    auto* const tabs = new QTabWidget;
-    tabs->setObjectName("SSTab2");
-    tabs->addTab(dat_page(), "dat / mas");
-    tabs->addTab(qth_page(), "取得");
-    tabs->addTab(text_page(), "Text_data");
-    tabs->addTab(rank_page(), "優先順位");
-    build_.binder().bind(screen_.SSTab2, tabs);
-    const std::vector<QRadioButton*> first = build_.radios(screen_.Option22);
-    for (std::size_t i = 0; i < first.size(); ++i) {
-        tabs->widget(static_cast<int>(i))->layout()->addWidget(first[i]);
-    }
-    return tabs;
-}
-
-QWidget* MainWindow::conversion_page() {
-    auto* const year = box("コンテストの年 ( ＴＸＴ )",
-                           row({build_.edit(screen_.txtYYYY, 4), build_.button(screen_.cmdNow)}));
-    build_.binder().bind(screen_.Frame14, year);
-    return page({
-        box("オペレーター",
-            row({build_.check(screen_.Check15), build_.edit(screen_.txtOp_name, 12)})),
-        box("周波数", row({build_.check(screen_.Check01)})),
-        row({box("ログの時刻", row(build_.radios(screen_.Option1))), year}),
-        box("時刻の変換", row(build_.radios(screen_.Option08))),
-        box("今回のみ ( ADIF )",
-            column({build_.check(screen_.Check27), build_.check(screen_.Check28)})),
-    });
-}
-
-QWidget* MainWindow::output_page() {
-    auto* const order = new QGridLayout;
-    order->addWidget(caption("単数回 ・ 複数回の局"), 0, 0);
-    order->addLayout(row(build_.radios(screen_.Option05)), 0, 1);
-    order->addWidget(caption("順序"), 1, 0);
-    order->addLayout(row({row(build_.radios(screen_.Option09)), build_.check(screen_.Check08)}), 1,
-                     1);
-    order->addWidget(caption("同じ局の中"), 2, 0);
-    order->addLayout(column(build_.radios(screen_.Option06)), 2, 1);
-    order->setColumnStretch(1, 1);
-
-    auto* const rule = new QGridLayout;
-    const std::vector<QRadioButton*> kinds = build_.radios(screen_.Option07);
-    for (std::size_t i = 0; i < kinds.size(); ++i) {
-        rule->addWidget(kinds[i], static_cast<int>(i / 2), static_cast<int>(i % 2));
-    }
-    rule->addLayout(row({row(build_.radios(screen_.Option01)), build_.check(screen_.Check19),
-                         build_.check(screen_.Check20)}),
-                    2, 0, 1, 2);
-    rule->addLayout(row({build_.check(screen_.Check18)}), 3, 0, 1, 2);
-    rule->addLayout(
-        row({build_.button(screen_.cmdDate), build_.button(screen_.cmdCheck_bak_qso_mas),
-             build_.check(screen_.Check23)}),
-        4, 0, 1, 2);
-
-    return page({
-        box("整列", order),
-        box("No QSL", rule),
-        box("QSL 欄", row({caption("転送"), build_.edit(screen_.txtQSL_Q, 1), caption("発行"),
-                           build_.edit(screen_.txtQSL_S, 1), build_.check(screen_.Check2),
-                           build_.check(screen_.Check3), caption(" JA の ｸﾗﾌﾞ 局 には "),
-                           build_.check(screen_.Check10)})),
-        row({box("G ・ L", column({build_.check(screen_.Check21), build_.check(screen_.Check07)})),
-             box("Dupe List", row({build_.check(screen_.Check06)}))}),
-    });
-}
-
-QWidget* MainWindow::member_page() {
-    return page({
-        build_.label(screen_.lblJARL_menu),
-        build_.label(screen_.lblJARL_after),
-        box("検索", row({build_.check(screen_.Check31), build_.check(screen_.Check32),
-                         build_.check(screen_.Check33)})),
-        box("無登録のマーク", row({build_.edit(screen_.txtQSL_moji, 1)})),
-        box("環境設定", row({caption("コールサイン"), build_.label(screen_.lblMyCalls),
-                             caption("パスワード"), build_.label(screen_.lblPassWord)})),
-        row({build_.button(screen_.cmdStart_JARL), build_.button(screen_.cmdStart_JARL2)}),
-    });
-}
-
-QWidget* MainWindow::result_page() {
-    QTableWidget* const grid = build_.grid(screen_.MSFlexGrid1);
-    grid->setSelectionMode(QAbstractItemView::NoSelection);
-    grid->setFocusPolicy(Qt::NoFocus);
-    grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    grid->horizontalHeader()->setStretchLastSection(true);
-    grid->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    grid->setMinimumHeight(grid->verticalHeader()->length() + 2 * grid->frameWidth());
-    return page({
-        grid,
-        row({build_.check(screen_.Check26), build_.label(screen_.lblIn_rec_count)}),
-        row({build_.button(screen_.cmdDisp_Veldrana_new_ini),
-             build_.button(screen_.cmdDisp_Veldrana_cfg_ini), build_.button(screen_.cmdStop)}),
-    });
-}
-
-QWidget* MainWindow::dat_page() {
-    auto* const choice = box("dat 選択 ", row(build_.radios(screen_.Option03)));
-    build_.binder().bind(screen_.Frame11, choice);
-    auto* const file = box("個別 DAT", stretched(build_.path_label(screen_.Label37),
-                                                 build_.button(screen_.cmdDisp_dat2)));
-    build_.binder().bind(screen_.Frame03, file);
-    return page({
-        box("コード ・ ＱＴＨ", column(build_.radios(screen_.Option02))),
-        row({choice, box("code 取得", row(build_.radios(screen_.Option04)))}),
-        file,
-        box("name_mas ．txt より",
-            row({build_.check(screen_.Check03), build_.button(screen_.cmdCount)})),
-    });
-}
-
-QWidget* MainWindow::qth_page() {
-    return page({
-        box("  ＱＴＨ_ＭＡＳ．ｔｘｔ よりの取得 ",
-            column({build_.label(screen_.lblNo_qth_mas), row({build_.check(screen_.Check14)}),
-                    row({build_.check(screen_.Check6), build_.check(screen_.Check4),
-                         build_.check(screen_.Check7), build_.check(screen_.Check5)}),
-                    row({build_.check(screen_.Check16)})})),
-        box(" CODE , QTH 欄が空白なら ",
-            row({build_.check(screen_.Check24), build_.check(screen_.Check25)})),
-        box("Entity", row({build_.check(screen_.Check22)})),
-    });
-}
-
-QWidget* MainWindow::text_page() {
-    const std::vector<QRadioButton*> places = build_.radios(screen_.Option4);
-    auto* const table = new QGridLayout;
-    table->addWidget(caption("Rmks 1 の"), 0, 0);
-    table->addWidget(places[0], 0, 1);
-    table->addWidget(places[1], 0, 2);
-    table->addWidget(caption("Rmks 2 の"), 1, 0);
-    table->addWidget(places[2], 1, 1);
-    table->addWidget(places[3], 1, 2);
-    table->setColumnStretch(3, 1);
-    return page({
-        box("ユーザーテキスト",
-            column({row({build_.check(screen_.Check8)}),
-                    row({caption("A"), build_.check(screen_.Check4_A),
-                         build_.button(screen_.cmdSet_UserTxt_A)}),
-                    row({caption("B"), build_.check(screen_.Check4_B),
-                         build_.button(screen_.cmdSet_UserTxt_B)}),
-                    row({build_.check(screen_.Check11), build_.check(screen_.Check13),
-                         build_.check(screen_.Check9), build_.check(screen_.Check12)}),
-                    row({build_.check(screen_.Check17)})})),
-        box("Ｒｍｋｓ の位置", table),
-    });
-}
-
-QWidget* MainWindow::rank_page() {
-    return page({box("取得の優先順位", rank_table(build_, screen_))});
-}
-
-QWidget* MainWindow::make_remarks() {
-    auto* const table = new QGridLayout;
-    table->addWidget(caption("項目"), 0, 0);
-    auto* const items = new QHBoxLayout;
-    for (ItemButton& button : screen_.Command1) {
-        items->addWidget(new ItemWidget(button));
-    }
-    items->addStretch();
-    items->addWidget(build_.check(screen_.Check1));
-    table->addLayout(items, 0, 1, 1, 7);
-    const auto add_row = [&](int place, const QString& title, RemarkSlots& slots,
-                             CommandButton& sort, TextBox& comment, CommandButton& clear) {
-        table->addWidget(caption(title), place, 0);
-        for (int i = 0; i < static_cast<int>(remark_slot_count); ++i) {
-            table->addWidget(new SlotWidget(program_, pump_, slots[static_cast<std::size_t>(i)]),
-                             place, 1 + i);
-        }
-        table->addWidget(build_.button(sort), place, 7);
-        table->addWidget(caption(title + " の文"), place, 8);
-        table->addWidget(build_.edit(comment, 0), place, 9);
-        table->addWidget(build_.button(clear), place, 10);
-    };
-    add_row(1, "Rmks 1", screen_.lblRmks1, screen_.cmdSort_2, screen_.txtRmks1, screen_.cmdCl_rmk1);
-    add_row(2, "Rmks 2", screen_.lblRmks2, screen_.cmdSort_3, screen_.txtRmks2, screen_.cmdCl_rmk2);
-    table->addLayout(row({build_.button(screen_.cmdAll_Sort), build_.button(screen_.cmdAll_Redo),
-                          build_.button(screen_.cmdRireki), build_.button(screen_.cmdKetasu)},
-                         false),
-                     0, 8, 1, 3);
-    table->addWidget(build_.label(screen_.lblLen), 3, 1, 1, 2);
-    table->setColumnStretch(9, 1);
-    return box("Rmks  ( 項目を枠へドラッグする )", table);
-}
-
-QWidget* MainWindow::make_start() {
-    QPushButton* const start = build_.button(screen_.cmdStart);
-    QFont font = start->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    font.setBold(true);
-    start->setFont(font);
-    start->setMinimumWidth(start->fontMetrics().horizontalAdvance("変　　換") * 2);
-    start->setMinimumHeight(start->fontMetrics().height() * 2);
-    auto* const progress = new QProgressBar;
-    progress->setObjectName("ProgressBar1");
-    QSizePolicy kept = progress->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    progress->setSizePolicy(kept);
-    build_.binder().bind(screen_.ProgressBar1, progress);
-    auto* const state = column({build_.label(screen_.lblCFG), build_.label(screen_.lblMsg)});
-    auto* const panel = new QWidget;
-    auto* const layout = new QHBoxLayout;
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(start);
-    layout->addLayout(state, 1);
-    layout->addWidget(progress, 1);
-    panel->setLayout(layout);
-    return panel;
 }
 
 void MainWindow::follow_window() {
@@ -374,10 +129,9 @@ void MainWindow::follow_window() {
         const Window& window = screen_.window;
         setWindowTitle(to_qt(window.caption.get()));
         if (window.visible && !isVisible()) {
+            resize(sizeHint().boundedTo(screen()->availableSize()));
             if (const auto& placement = window.placement.get()) {
-                setGeometry(static_cast<int>(placement->left), static_cast<int>(placement->top),
-                            static_cast<int>(placement->width),
-                            static_cast<int>(placement->height));
+                put(*this, *placement);
             }
             placed_ = true;
             show();
@@ -388,16 +142,9 @@ void MainWindow::follow_window() {
 }
 
 void MainWindow::tell_placement() {
-    if (!placed_) {
-        return;
+    if (placed_) {
+        screen_.window.placement = placement_of(*this);
     }
-    const QRect normal = isMaximized() ? normalGeometry() : geometry();
-    screen_.window.placement = WindowPlacement{
-        .state = isMaximized() ? WindowPlacement::maximised : WindowPlacement::normal,
-        .left = static_cast<float>(normal.left()),
-        .top = static_cast<float>(normal.top()),
-        .width = static_cast<float>(normal.width()),
-        .height = static_cast<float>(normal.height())};
 }
 
 void MainWindow::moveEvent(QMoveEvent* event) {
@@ -410,20 +157,25 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     tell_placement();
 }
 
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        tell_placement();
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (program_.ended()) {
         event->accept();
         return;
     }
     event->ignore();
-    if (!pump_.busy()) {
-        pump_.run([this] { screen_.tool_end.press(); });
-    }
+    pump_.run([this] { screen_.tool_end.press(); });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.front().isLocalFile() && !pump_.busy()) {
+    if (urls.size() == 1 && urls.front().isLocalFile()) {
         event->acceptProposedAction();
     }
 }

@@ -65,11 +65,15 @@ Answer QtPerson::show(const MessageBox& box) {
         shown.button(QMessageBox::Retry)->setText("再 試 行");
         shown.button(QMessageBox::Cancel)->setText("キャンセル");
         shown.setDefaultButton(QMessageBox::Retry);
-        return shown.exec() == QMessageBox::Retry ? Answer::retry : Answer::cancel;
+    } else {
+        shown.button(QMessageBox::Ok)->setText("ＯＫ");
     }
-    shown.button(QMessageBox::Ok)->setText("ＯＫ");
-    shown.exec();
-    return Answer::ok;
+    int answer = 0;
+    pump_.wait_for([&] { answer = shown.exec(); });
+    if (answer == QMessageBox::Retry) {
+        return Answer::retry;
+    }
+    return box.buttons == Buttons::ok ? Answer::ok : Answer::cancel;
 }
 
 std::string QtPerson::choose_file(const FileDialog& dialog) {
@@ -82,7 +86,9 @@ std::string QtPerson::choose_file(const FileDialog& dialog) {
     } else if (!last_folder_.isEmpty()) {
         shown.setDirectory(last_folder_);
     }
-    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) {
+    int answer = QDialog::Rejected;
+    pump_.wait_for([&] { answer = shown.exec(); });
+    if (answer != QDialog::Accepted || shown.selectedFiles().isEmpty()) {
         return {};
     }
     last_folder_ = shown.directory().absolutePath();
@@ -94,7 +100,9 @@ std::string QtPerson::choose_folder(std::string_view title, std::string_view sta
     if (!start.empty() && disk_.folder_exists(start)) {
         folder = QString::fromStdU16String(disk_.host_path(start).u16string());
     }
-    const QString chosen = QFileDialog::getExistingDirectory(front(), to_qt(title), folder);
+    QString chosen;
+    pump_.wait_for(
+        [&] { chosen = QFileDialog::getExistingDirectory(front(), to_qt(title), folder); });
     return chosen.isEmpty() ? std::string() : program_path(chosen);
 }
 
@@ -105,7 +113,7 @@ void QtPerson::show_modal(WindowForm& form) {
 }
 
 void QtPerson::pending_events() {
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    pump_.breathe();
 }
 
 }  // namespace veldrana

@@ -37,7 +37,7 @@ SlotWidget::SlotWidget(Program& program, Pump& pump, RemarkSlot& slot)
     setAlignment(Qt::AlignCenter);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
-    setMinimumWidth(fontMetrics().horizontalAdvance("ｺﾝﾃｽﾄWW"));
+    setMinimumWidth(fontMetrics().horizontalAdvance("ｺﾝﾃｽﾄW"));
     setMinimumHeight(fontMetrics().height() * 3 / 2);
     const auto show = [this] { setText(to_qt(slot_.caption.get())); };
     show();
@@ -75,6 +75,9 @@ ItemWidget::ItemWidget(ItemButton& button) : button_(button) {
     setCursor(Qt::OpenHandCursor);
     setAutoDefault(false);
     setFocusPolicy(Qt::NoFocus);
+    // The row shares the room there is.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumWidth(fontMetrics().horizontalAdvance(text() + "WW"));
     const QPalette usual = palette();
     const auto show = [this, usual] {
         constexpr int light = 205;

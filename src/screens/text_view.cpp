@@ -4,14 +4,14 @@
 #include <QStyledItemDelegate>
 
 #include "common/list_box_hs.h"
-#include "screens/view_builder.h"
+#include "screens/binding.h"
+#include "screens/fonts.h"
 
 namespace veldrana {
-namespace {
 
-class TextModel : public QAbstractListModel {
+class TextView::Lines : public QAbstractListModel {
   public:
-    TextModel(const ViewedText& text, QObject* parent) : QAbstractListModel(parent), text_(text) {}
+    Lines(const ViewedText& text, QObject* parent) : QAbstractListModel(parent), text_(text) {}
 
     int rowCount(const QModelIndex& parent) const override {
         return parent.isValid() ? 0 : static_cast<int>(text_.count());
@@ -24,40 +24,50 @@ class TextModel : public QAbstractListModel {
         return to_qt(text_.line(static_cast<std::size_t>(index.row())));
     }
 
+    void reload() {
+        beginResetModel();
+        endResetModel();
+    }
+
   private:
     const ViewedText& text_;
 };
 
+namespace {
+
 // All lines have the height of one and the width of the longest, so that none is measured.
 class LineDelegate : public QStyledItemDelegate {
   public:
-    LineDelegate(const QSize& size, QObject* parent) : QStyledItemDelegate(parent), size_(size) {}
+    LineDelegate(const ViewedText& text, const QFont& font, QObject* parent)
+        : QStyledItemDelegate(parent), text_(text), metrics_(font) {}
+
     QSize sizeHint(const QStyleOptionViewItem& /*option*/,
                    const QModelIndex& /*index*/) const override {
-        return size_;
+        const int column =
+            std::max(metrics_.horizontalAdvance(u'0'), metrics_.horizontalAdvance(u'漢') / 2 + 1);
+        return {static_cast<int>(text_.widest()) * column + ListBoxHS::margin, metrics_.height()};
     }
 
   private:
-    QSize size_;
+    const ViewedText& text_;
+    QFontMetrics metrics_;
 };
 
 }  // namespace
 
-QListView* text_view(const ViewedText& text) {
-    auto* const view = new QListView;
-    view->setObjectName("List1");
-    view->setFont(fixed_font());
-    view->setUniformItemSizes(true);
-    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->setTextElideMode(Qt::ElideNone);
-    const QFontMetrics metrics(view->font());
-    const int column =
-        std::max(metrics.horizontalAdvance(u'0'), metrics.horizontalAdvance(u'漢') / 2 + 1);
-    const int width = static_cast<int>(text.widest()) * column + ListBoxHS::margin;
-    view->setItemDelegate(new LineDelegate(QSize(width, metrics.height()), view));
-    view->setModel(new TextModel(text, view));
-    return view;
+TextView::TextView(const ViewedText& text) : lines_(new Lines(text, this)) {
+    setObjectName("List1");
+    setFont(fixed_font());
+    setUniformItemSizes(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTextElideMode(Qt::ElideNone);
+    setItemDelegate(new LineDelegate(text, font(), this));
+    setModel(lines_);
+}
+
+void TextView::reload() {
+    lines_->reload();
 }
 
 }  // namespace veldrana

@@ -1,4 +1,4 @@
-// Owns how the text of a file stands on the screen: lines are made as they come into view.
+// Owns how a text file is looked at: lines are made as they come into view.
 #pragma once
 
 #include <QListView>
@@ -7,7 +7,17 @@
 
 namespace veldrana {
 
-// The text must live as long as the view.
-QListView* text_view(const ViewedText& text);
+class TextView : public QListView {
+  public:
+    // The text must live as long as the view.
+    explicit TextView(const ViewedText& text);
+
+    // The text is another one now.
+    void reload();
+
+  private:
+    class Lines;
+    Lines* lines_;
+};
 
 }  // namespace veldrana

@@ -1,6 +1,5 @@
 #include "screens/view_builder.h"
 
-#include <QFontDatabase>
 #include <QResizeEvent>
 
 namespace veldrana {
@@ -131,6 +130,21 @@ QHBoxLayout* row(std::initializer_list<Piece> pieces, bool stretch_at_end) {
     return layout;
 }
 
+QHBoxLayout* row_with_wide(int place, std::initializer_list<Piece> pieces) {
+    QHBoxLayout* const layout = row(pieces, false);
+    layout->setStretch(place, 1);
+    return layout;
+}
+
+QHBoxLayout* row_at_right(std::initializer_list<QPushButton*> buttons) {
+    auto* const layout = new QHBoxLayout;
+    layout->addStretch();
+    for (QPushButton* const button : buttons) {
+        layout->addWidget(button);
+    }
+    return layout;
+}
+
 QVBoxLayout* column(std::initializer_list<Piece> pieces) {
     auto* const layout = new QVBoxLayout;
     for (const Piece& piece : pieces) {
@@ -159,6 +173,7 @@ QHBoxLayout* row(const std::vector<QRadioButton*>& buttons) {
 QGroupBox* box(const QString& title, QLayout* layout) {
     auto* const group = new QGroupBox(title);
     group->setLayout(layout);
+    layout->setContentsMargins(10, 4, 10, 6);
     return group;
 }
 
@@ -173,12 +188,9 @@ QWidget* page(std::initializer_list<Piece> pieces) {
     auto* const widget = new QWidget;
     QVBoxLayout* const layout = column(pieces);
     layout->addStretch();
+    layout->setContentsMargins(10, 6, 10, 6);
     widget->setLayout(layout);
     return widget;
-}
-
-QFont fixed_font() {
-    return QFontDatabase::systemFont(QFontDatabase::FixedFont);
 }
 
 }  // namespace veldrana

@@ -48,6 +48,10 @@ class ViewBuilder {
 QLabel* caption(const QString& text);
 
 QHBoxLayout* row(std::initializer_list<Piece> pieces, bool stretch_at_end = true);
+// The piece with that place, counted from 0, takes all the room there is.
+QHBoxLayout* row_with_wide(int place, std::initializer_list<Piece> pieces);
+// The buttons that end a dialog.
+QHBoxLayout* row_at_right(std::initializer_list<QPushButton*> buttons);
 QVBoxLayout* column(std::initializer_list<Piece> pieces);
 QVBoxLayout* column(const std::vector<QRadioButton*>& buttons);
 QHBoxLayout* row(const std::vector<QRadioButton*>& buttons);
@@ -56,8 +60,5 @@ QFrame* line();
 
 // A page of tabs: what stands on it keeps to the top.
 QWidget* page(std::initializer_list<Piece> pieces);
-
-// Lines of a fixed font that is there for Japanese.
-QFont fixed_font();
 
 }  // namespace veldrana

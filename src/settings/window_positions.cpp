@@ -12,7 +12,7 @@ namespace {
 
 struct Side {
     std::string_view key;
-    float WindowPlacement::*value;
+    std::optional<float> WindowPlacement::*value;
 };
 constexpr std::array<Side, 4> written_sides{{{"Left", &WindowPlacement::left},
                                              {"Top", &WindowPlacement::top},
@@ -60,7 +60,9 @@ void save_position(Disk& disk, std::string_view strPath, const Window& window) {
     file.SetValue("WindowState",
                   std::to_string(minimised ? WindowPlacement::normal : placement.state));
     for (const Side& side : written_sides) {
-        file.SetValue(side.key, text_of(placement.*side.value));
+        if (placement.*side.value) {
+            file.SetValue(side.key, text_of(*(placement.*side.value)));
+        }
     }
     file.Save(section_of(window));
 }

@@ -244,7 +244,7 @@ TEST_F(WindowPositionsTest, ATextForANumberLeavesTheDesignPosition) {
 
 TEST_F(WindowPositionsTest, ANumberWithAFractionConvertsToo) {
     put("[Position_frmDate]\r\nLeft=120.25\r\n");
-    EXPECT_NEAR(load("frmDate").left, 120, 0.5);
+    EXPECT_NEAR(load("frmDate").left.value_or(0), 120, 0.5);
 }
 
 TEST_F(WindowPositionsTest, EachOfTheThreeStatesIsTaken) {

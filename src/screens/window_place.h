@@ -1,0 +1,17 @@
+// Owns how a window is put where a form's placement tells, and how its place is told.
+#pragma once
+
+#include <QWidget>
+
+#include "common/controls.h"
+
+namespace veldrana {
+
+// What the placement does not tell stays as the window has it. Nothing keeps a window on the
+// screen: it comes back where it was.
+void put(QWidget& window, const WindowPlacement& placement);
+
+// In pixels of the screen, without the frame.
+WindowPlacement placement_of(const QWidget& window);
+
+}  // namespace veldrana
