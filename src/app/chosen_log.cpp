@@ -47,6 +47,7 @@ void set_out_names(Program& program) {
 
         log.in_Dir = split_path(log.in_name).folder;
         screen.lblIn_name.fore_colour = colours::blue;
+        screen.tool_in.enabled = true;
 
         const bool in_full = LenMbcs(log.in_name) <= full_path_width;
         const auto shown = [in_full](const std::string& path) {

@@ -17,7 +17,8 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
     // What needs a log that is chosen, or a file that is there.
     for (CommandButton* const button : std::initializer_list<CommandButton*>{
              &mnuMake_z2a, &mnuDisp_z2a, &mnuDisp_z2a_, &mnuDisp_log2a, &mnuDisp_con_new,
-             &mnuDisp_ham_new, &tool_in, &tool_contest, &tool_hamlog, &tool_dup}) {
+             &mnuDisp_ham_new, &mnuDisp_QSOBank, &tool_in, &tool_contest, &tool_hamlog,
+             &tool_dup}) {
         button->enabled = false;
     }
 }
@@ -113,7 +114,7 @@ void MainScreen::enable_dat_viewers(bool on) {
 
 void MainScreen::enable_viewers(bool on) {
     for (Control* const control : std::initializer_list<Control*>{
-             &mnuDisp_in, &cmdDisp_in, &tool_in, &cmdDisp_contest, &cmdDisp_Hamlog, &mnuDisp_con_n,
+             &mnuDisp_in, &cmdDisp_in, &cmdDisp_contest, &cmdDisp_Hamlog, &mnuDisp_con_n,
              &mnuDisp_ham_n, &mnuDisp_Veldrana_Rireki_cfg, &mnuDisp_Veldrana_rmk1,
              &mnuDisp_Veldrana_rmk2, &mnuDisp_dup}) {
         control->enabled = on;

@@ -1,6 +1,7 @@
 #include "screens/slot_widgets.h"
 
 #include <QApplication>
+#include <QDataStream>
 #include <QDrag>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -12,10 +13,29 @@ namespace {
 
 constexpr const char* item_format = "application/x-veldrana-item";
 
-// Carries the name of an item, and the slot that it comes from as the drag's source.
-void drag(QWidget* source, const std::string& item) {
+// The name of an item, and of the slot that it comes from, if it is one of this program; another
+// program that runs beside it has slots of the same names.
+QMimeData* carry(const std::string& item, const std::string& slot) {
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << to_qt(item) << to_qt(slot) << QCoreApplication::applicationPid();
     auto* const data = new QMimeData;
-    data->setData(item_format, QByteArray::fromStdString(item));
+    data->setData(item_format, bytes);
+    return data;
+}
+
+DraggedItem carried_item(const QMimeData& data, const MainScreen& screen) {
+    QString item;
+    QString slot;
+    qint64 program = 0;
+    QDataStream stream(data.data(item_format));
+    stream >> item >> slot >> program;
+    const bool is_ours = program == QCoreApplication::applicationPid();
+    Control* const from = is_ours ? screen.find(from_qt(slot)) : nullptr;
+    return {.name = from_qt(item), .from = dynamic_cast<RemarkSlot*>(from)};
+}
+
+void drag(QWidget* source, QMimeData* data) {
     auto* const under_way = new QDrag(source);
     under_way->setMimeData(data);
     under_way->setPixmap(source->grab());
@@ -44,13 +64,17 @@ SlotWidget::SlotWidget(Program& program, Pump& pump, RemarkSlot& slot)
     slot.listener = show;
 }
 
+QMimeData* SlotWidget::carried() const {
+    return carry(slot_.caption, slot_.name());
+}
+
 void SlotWidget::mousePressEvent(QMouseEvent* event) {
     pressed_at_ = event->pos();
 }
 
 void SlotWidget::mouseMoveEvent(QMouseEvent* event) {
     if (is_a_drag(event, pressed_at_) && !slot_.caption.get().empty()) {
-        drag(this, slot_.caption);
+        drag(this, carried());
     }
 }
 
@@ -61,10 +85,7 @@ void SlotWidget::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void SlotWidget::dropEvent(QDropEvent* event) {
-    DraggedItem dragged{.name = event->mimeData()->data(item_format).toStdString()};
-    if (auto* const source = dynamic_cast<SlotWidget*>(event->source())) {
-        dragged.from = &source->slot_;
-    }
+    const DraggedItem dragged = carried_item(*event->mimeData(), program_.screen);
     event->acceptProposedAction();
     pump_.run([&] { program_.event([&] { drop_on_slot(program_, slot_, dragged); }); });
 }
@@ -91,13 +112,17 @@ ItemWidget::ItemWidget(ItemButton& button) : button_(button) {
     button.listener = show;
 }
 
+QMimeData* ItemWidget::carried() const {
+    return carry(button_.caption, {});
+}
+
 void ItemWidget::mousePressEvent(QMouseEvent* event) {
     pressed_at_ = event->pos();
 }
 
 void ItemWidget::mouseMoveEvent(QMouseEvent* event) {
     if (is_a_drag(event, pressed_at_)) {
-        drag(this, button_.caption);
+        drag(this, carried());
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QMimeData>
 #include <QPushButton>
 
 #include "app/program.h"
@@ -13,6 +14,9 @@ namespace veldrana {
 class SlotWidget : public QLabel {
   public:
     SlotWidget(Program& program, Pump& pump, RemarkSlot& slot);
+
+    // What a drag from here carries; the caller's.
+    QMimeData* carried() const;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -31,6 +35,9 @@ class SlotWidget : public QLabel {
 class ItemWidget : public QPushButton {
   public:
     explicit ItemWidget(ItemButton& button);
+
+    // What a drag from here carries; the caller's.
+    QMimeData* carried() const;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

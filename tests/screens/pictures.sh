@@ -3,6 +3,7 @@
 # Another folder, or another scaling (QT_SCALE_FACTOR=2), can be given to look at the screens only.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
+house=$PWD
 pictures=$(realpath -m "${1:-docs/images}")
 program=build/bin/veldrana
 mkdir -p "$pictures"
@@ -66,6 +67,7 @@ click cmdBack
 close
 STEPS
 
-VELDRANA_STEPS=$work/steps QT_PLUGIN_PATH=build/release/plugins \
+cd "$work"  # a start through the environment dialog leaves a file in the current folder
+VELDRANA_STEPS=$work/steps QT_PLUGIN_PATH=$house/build/release/plugins \
     QT_QPA_GENERIC_PLUGINS=veldrana_driver QT_QPA_PLATFORM=xcb LANG=C.UTF-8 \
     timeout 120 xvfb-run -a -s "-screen 0 ${SCREEN:-1920x1200x24}" "$work/veldrana/veldrana"

@@ -1,0 +1,180 @@
+#include "tests/screens/desktop_kit.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include "screens/slot_widgets.h"
+
+namespace veldrana {
+
+DesktopKit::DesktopKit() {
+    std::filesystem::copy(std::filesystem::path(VELDRANA_SOURCE_DIR) / "samples", drive(),
+                          std::filesystem::copy_options::recursive);
+    // A start through the environment dialog leaves a file in the current folder.
+    QDir::setCurrent(QString::fromStdString(scratch_.path().string()));
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look_for_dialog(); });
+    timer_.start(10);
+}
+
+DesktopKit::~DesktopKit() {
+    EXPECT_EQ(acts_.size(), 0U) << "dialogs that never came";
+}
+
+bool DesktopKit::start() {
+    desktop_.emplace(home(), std::map<char, std::filesystem::path>{{'C', drive()}});
+    const bool started = desktop_->start();
+    if (started) {
+        // More than the platform's own small screen, so that all of it can be clicked on.
+        window().resize(1300, 900);
+        window().activateWindow();
+    }
+    QApplication::processEvents();
+    return started;
+}
+
+bool DesktopKit::start_first_time() {
+    // The first start makes the files of the settings and asks for the environment, which is there:
+    // its dialog is saved and left.
+    on_dialog([](QDialog& dialog) {
+        part<QPushButton>(dialog, "cmdSave").click();
+        part<QPushButton>(dialog, "cmdOK").click();
+    });
+    accept_box();  // the hint that name masters are there
+    const bool started = start();
+    seen.clear();
+    return started;
+}
+
+void DesktopKit::end() {
+    window().close();
+    desktop_.reset();
+}
+
+void DesktopKit::on_dialog(std::function<void(QDialog&)> act) {
+    acts_.push_back(std::move(act));
+}
+
+void DesktopKit::choose(const std::filesystem::path& file) {
+    on_dialog([file](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        if (file.empty()) {
+            files.reject();
+            return;
+        }
+        part<QLineEdit>(files, "fileNameEdit").setText(QString::fromStdString(file.string()));
+        QMetaObject::invokeMethod(&files, "accept");
+    });
+}
+
+void DesktopKit::accept_box() {
+    on_dialog([](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).accept(); });
+}
+
+void DesktopKit::cancel_box() {
+    on_dialog([](QDialog& dialog) {
+        dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::Cancel)->click();
+    });
+}
+
+void DesktopKit::look_for_dialog() {
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || dialog == acted_on_) {
+        return;  // none, or one that is just going
+    }
+    SeenDialog shown{
+        .title = dialog->windowTitle().toStdString(), .text = {}, .folder = {}, .filters = {}};
+    if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) {
+        shown.text = box->text().toStdString();
+    } else if (const auto* const files = qobject_cast<QFileDialog*>(dialog)) {
+        shown.folder = files->directory().absolutePath().toStdString();
+        for (const QString& filter : files->nameFilters()) {
+            shown.filters.push_back(filter.toStdString());
+        }
+    }
+    seen.push_back(shown);
+    if (acts_.empty()) {
+        ADD_FAILURE() << "a dialog that nobody waits for: " << shown.title << '\n' << shown.text;
+        dialog->reject();
+        return;
+    }
+    acted_on_ = dialog;
+    const auto act = acts_.front();
+    acts_.pop_front();
+    try {
+        act(*dialog);
+    } catch (const std::exception& error) {
+        // Nothing that is thrown may pass through the toolkit's loop.
+        ADD_FAILURE() << shown.title << ": " << error.what();
+        dialog->reject();
+    }
+}
+
+void DesktopKit::bring_to_front(QWidget& widget) {
+    for (QWidget* page = &widget; page != nullptr; page = page->parentWidget()) {
+        QWidget* const stack = page->parentWidget();
+        auto* const tabs =
+            stack == nullptr ? nullptr : qobject_cast<QTabWidget*>(stack->parentWidget());
+        if (tabs != nullptr && tabs->indexOf(page) >= 0) {
+            tabs->setCurrentWidget(page);
+        }
+    }
+}
+
+void DesktopKit::click(QAbstractButton& button) {
+    bring_to_front(button);
+    // The mark of a check box or a radio button stands at its left end.
+    const QPoint place(std::min(button.width(), button.height()) / 2, button.height() / 2);
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void DesktopKit::drag(const std::string& from, const std::string& to) {
+    auto& source = widget<QWidget>(from);
+    const auto* const slot = dynamic_cast<const SlotWidget*>(&source);
+    const std::unique_ptr<QMimeData> data(
+        slot != nullptr ? slot->carried() : dynamic_cast<const ItemWidget&>(source).carried());
+    auto& target = widget<QWidget>(to);
+    const QPoint place = target.rect().center();
+    QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &enter);
+    ASSERT_TRUE(enter.isAccepted()) << from << " to " << to;
+    QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+}
+
+void DesktopKit::type(const std::string& name, const std::string& text) {
+    auto& field = widget<QLineEdit>(name);
+    bring_to_front(field);
+    field.setFocus();
+    field.selectAll();
+    field.insert(QString::fromStdString(text));
+}
+
+void DesktopKit::open(const std::string& entry, const std::filesystem::path& file) {
+    choose(file);
+    widget<QAction>(entry).trigger();
+}
+
+std::string DesktopKit::text(const std::string& name) {
+    auto& shown = widget<QWidget>(name);
+    if (const auto* const label = qobject_cast<QLabel*>(&shown)) {
+        return label->text().toStdString();
+    }
+    if (const auto* const field = qobject_cast<QLineEdit*>(&shown)) {
+        return field->text().toStdString();
+    }
+    return dynamic_cast<QAbstractButton&>(shown).text().toStdString();
+}
+
+QColor text_colour(const QWidget& widget) {
+    return widget.palette().color(QPalette::Active, widget.foregroundRole());
+}
+
+}  // namespace veldrana
