@@ -28,11 +28,10 @@ DesktopKit::~DesktopKit() {
     EXPECT_EQ(acts_.size(), 0U) << "dialogs that never came";
 }
 
-bool DesktopKit::start() {
+bool DesktopKit::start(Size size) {
     desktop_.emplace(home(), std::map<char, std::filesystem::path>{{'C', drive()}});
     const bool started = desktop_->start();
-    if (started) {
-        // More than the platform's own small screen, so that all of it can be clicked on.
+    if (started && size == Size::large) {
         window().resize(1300, 900);
         window().activateWindow();
     }

@@ -43,8 +43,10 @@ class DesktopKit {
     std::filesystem::path home() const { return drive() / "veldrana"; }
     std::filesystem::path log(const std::string& name) const { return drive() / "logs" / name; }
 
-    // Starts the program; false if it has ended before its main window.
-    bool start();
+    // Starts the program; false if it has ended before its main window. All of a large window can
+    // be clicked on.
+    enum class Size { large, as_left };
+    bool start(Size size = Size::large);
     // The first start of a folder: its environment is saved, its hint read.
     bool start_first_time();
     // Ends the program in order and forgets it; the folder stays.
