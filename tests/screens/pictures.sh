@@ -1,15 +1,17 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/images anew: the built program under Xvfb, driven by a script of steps.
-# Another folder, or another scaling (QT_SCALE_FACTOR=2), can be given to look at the screens only.
+# To look at the screens only: another folder, program and folder of the plugin can be named, and
+# another scaling and screen (QT_SCALE_FACTOR=2 SCREEN=2560x1600x24).
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-house=$PWD
 pictures=$(realpath -m "${1:-docs/images}")
-program=build/bin/veldrana
+program=$(realpath "${2:-build/bin/veldrana}")
+plugins=$(realpath "${3:-build/release/plugins}")
 mkdir -p "$pictures"
 
-# No dot in the name: the dupe list is named by what stands before the first one.
-work=$(mktemp -d /tmp/veldrana-XXXXXX)
+# A path that reads well in the pictures.
+work=/tmp/veldrana-pictures
+mkdir "$work"
 trap 'rm -rf "$work"' EXIT
 cp -r samples/{veldrana,mas,yubin,zlog,hamlog,logs} "$work"
 cp "$program" "$work/veldrana/"
@@ -68,6 +70,6 @@ close
 STEPS
 
 cd "$work"  # a start through the environment dialog leaves a file in the current folder
-VELDRANA_STEPS=$work/steps QT_PLUGIN_PATH=$house/build/release/plugins \
+VELDRANA_STEPS=$work/steps QT_PLUGIN_PATH=$plugins \
     QT_QPA_GENERIC_PLUGINS=veldrana_driver QT_QPA_PLATFORM=xcb LANG=C.UTF-8 \
     timeout 120 xvfb-run -a -s "-screen 0 ${SCREEN:-1920x1200x24}" "$work/veldrana/veldrana"

@@ -268,7 +268,10 @@ class Steps : public QObject {
     }
 
     static void picture(QWidget* window, const QString& file) {
-        if (!window->grab().save(file)) {
+        if (!window->grab()
+                 .toImage()
+                 .convertToFormat(QImage::Format_RGB888)
+                 .save(file, "PNG", smallest_file)) {
             give_up("no picture " + file);
         }
     }
@@ -276,6 +279,7 @@ class Steps : public QObject {
     // In milliseconds.
     static constexpr qint64 longest_wait = 10000;
     static constexpr qint64 time_to_draw = 300;
+    static constexpr int smallest_file = 0;  // the toolkit's quality of a picture without loss
 
     QStringList steps_;
     QElapsedTimer waiting_;
