@@ -40,8 +40,7 @@ QStringList name_filters(const std::string& filter) {
                 patterns << pattern.trimmed().toUpper();
             }
         }
-        const QString title = pieces[i].section('(', 0, 0).trimmed();
-        filters << (title.isEmpty() ? pieces[i] : title) + " (" + patterns.join(' ') + ")";
+        filters << pieces[i].trimmed() + " (" + patterns.join(' ') + ")";
     }
     return filters;
 }
@@ -79,6 +78,8 @@ Answer QtPerson::show(const MessageBox& box) {
 std::string QtPerson::choose_file(const FileDialog& dialog) {
     QFileDialog shown(front(),
                       to_qt(dialog.title.empty() ? "ファイルを開く" : dialog.title).trimmed());
+    // The captions are seen as they are written; they tell their patterns themselves.
+    shown.setOption(QFileDialog::HideNameFilterDetails);
     shown.setNameFilters(name_filters(dialog.filter));
     shown.setFileMode(dialog.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     if (!dialog.folder.empty() && disk_.folder_exists(dialog.folder)) {

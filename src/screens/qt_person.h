@@ -35,7 +35,8 @@ class QtPerson : public Person {
     QString last_folder_;
 };
 
-// The pairs of a filter, "caption|patterns|...", as the toolkit's dialogs take them.
+// The pairs of a filter, "caption|patterns|...", as the toolkit's dialogs take them: the patterns
+// in parentheses behind the caption.
 QStringList name_filters(const std::string& filter);
 
 }  // namespace veldrana

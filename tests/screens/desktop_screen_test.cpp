@@ -4,11 +4,14 @@
 #include <vector>
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -99,6 +102,63 @@ TEST_F(DesktopScreen, FailureInARunEndsInTheReportAndTheProgram) {
 TEST_F(DesktopScreen, ClosingTheWindowEndsTheProgramInOrder) {
     kit.window().close();
     EXPECT_EQ(kit.program().ended(), ProgramEnd::Cause::orderly);
+}
+
+// A log that is dropped goes the way of its menu entry.
+TEST_F(DesktopScreen, LogDroppedOnTheWindowIsOpened) {
+    for (const char* const log : {"allja_sample.all", "zlo_sample.zlo", "n1mm_sample.adi"}) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(kit.log(log).string()))});
+        const QPoint place(20, 100);
+        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&kit.window(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&kit.window(), &drop);
+        EXPECT_THAT(kit.text("lblIn_name"), testing::EndsWith(log));
+    }
+}
+
+TEST_F(DesktopScreen, OnlyOneFileOfThisComputerCanBeDropped) {
+    QMimeData two;
+    two.setUrls({QUrl::fromLocalFile("/a.all"), QUrl::fromLocalFile("/b.all")});
+    QMimeData far;
+    far.setUrls({QUrl("https://example.com/a.all")});
+    QMimeData text;
+    text.setText("a.all");
+    for (const QMimeData* const data : {&two, &far, &text}) {
+        QDragEnterEvent enter(QPoint(20, 100), Qt::CopyAction, data, Qt::LeftButton,
+                              Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(&kit.window(), &enter);
+        EXPECT_FALSE(enter.isAccepted());
+    }
+}
+
+TEST_F(DesktopScreen, LogOpenedBeforeIsOpenedAgainFromTheMenu) {
+    kit.open("mnuOpen", kit.log("allja_sample.all"));
+    kit.open("mnuOpen_z", kit.log("zlo_sample.zlo"));
+    auto& recent = kit.widget<QAction>("mnuRecent(1)");
+    EXPECT_TRUE(recent.isVisible());
+    EXPECT_THAT(recent.text().toStdString(), testing::EndsWith("allja_sample.all"));
+    recent.trigger();
+    EXPECT_THAT(kit.text("lblIn_name"), testing::EndsWith("allja_sample.all"));
+}
+
+TEST_F(DesktopScreen, WindowCannotBeClosedInTheMidstOfARun) {
+    kit.open("mnuOpen", kit.log("allja_sample.all"));
+    auto& bar = kit.widget<QProgressBar>("ProgressBar1");
+    bool tried = false;
+    QObject::connect(&bar, &QProgressBar::valueChanged, [&] {
+        if (!tried) {
+            tried = true;
+            EXPECT_FALSE(kit.window().close());
+        }
+    });
+    kit.widget<QPushButton>("cmdStart").click();
+    EXPECT_TRUE(tried);
+    EXPECT_EQ(kit.text("lblCFG"), "処 理 終 了");
+    EXPECT_FALSE(kit.program().ended());
 }
 
 TEST_F(DesktopScreen, LongTextOpensAtOnce) {
