@@ -6,7 +6,7 @@ packages=(
     g++ cmake ninja-build ccache
     libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
     clang-format-14 clang-tidy-14 clang-14
-    qt6-base-dev xvfb xauth fonts-noto-cjk
+    qt6-base-dev qt6-translations-l10n xvfb xauth fonts-noto-cjk
     python3 util-linux
 )
 

@@ -18,5 +18,5 @@ if [ $# -gt 0 ]; then
     printf '%s\n' "$@"
 else
     git ls-files --cached --others --exclude-standard 'src/*.cpp'
-fi | xargs -P "$(nproc)" -n 1 clang-tidy-14 --quiet "${checks[@]}" -p build/lint \
+fi | xargs -P "$(nproc)" -n 1 clang-tidy-14 --quiet --extra-arg=-Wno-unknown-warning-option "${checks[@]}" -p build/lint \
     2> >(grep -v 'warnings generated' >&2)

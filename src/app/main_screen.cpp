@@ -17,8 +17,8 @@ MainScreen::MainScreen() : WindowForm("Veldrana") {
     // What needs a log that is chosen, or a file that is there.
     for (CommandButton* const button : std::initializer_list<CommandButton*>{
              &mnuMake_z2a, &mnuDisp_z2a, &mnuDisp_z2a_, &mnuDisp_log2a, &mnuDisp_con_new,
-             &mnuDisp_ham_new, &mnuDisp_QSOBank, &tool_in, &tool_contest, &tool_hamlog,
-             &tool_dup}) {
+             &mnuDisp_ham_new, &mnuDisp_dat, &cmdDisp_dat, &cmdDisp_dat2, &tool_dat,
+             &mnuDisp_QSOBank, &tool_in, &tool_contest, &tool_hamlog, &tool_dup}) {
         button->enabled = false;
     }
 }

@@ -1,6 +1,7 @@
 #include "screens/desktop.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QScreen>
 
 #include "app/config_dialog.h"
@@ -36,6 +37,10 @@ Desktop::Desktop(const std::filesystem::path& home,
       program_({disk_, clock_, person_, sorter_, services_, *log_book_, processes_},
                disk_.program_path(home), environment_variable("WINDIR")) {
     QApplication::setFont(interface_font());
+    // The toolkit's own dialogs speak as the program does, wherever its texts are installed.
+    if (translator_.load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&translator_);
+    }
     program_.read_master.window.listener = [this] {
         if (!program_.read_master.window.visible) {
             splash_.reset();

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include <QLabel>
+#include <QTranslator>
 
 #include "app/program.h"
 #include "platform/host_disk.h"
@@ -32,6 +33,7 @@ class Desktop {
     MainWindow* window() const noexcept { return window_.get(); }
 
   private:
+    QTranslator translator_;
     HostDisk disk_;
     Pump pump_;
     QtPerson person_;
