@@ -1,5 +1,6 @@
 #include "screens/binding.h"
 
+#include <array>
 #include <cmath>
 #include <memory>
 
@@ -47,10 +48,10 @@ void show_common(const Control& control, QWidget* widget) {
 
 void colour_text(QWidget* widget, Colour colour) {
     QPalette palette = widget->palette();
-    const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
-        {QPalette::WindowText, QPalette::Window},
-        {QPalette::ButtonText, QPalette::Button},
-        {QPalette::Text, QPalette::Base}};
+    using Roles = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+    constexpr std::array<Roles, 3> roles{{{QPalette::WindowText, QPalette::Window},
+                                          {QPalette::ButtonText, QPalette::Button},
+                                          {QPalette::Text, QPalette::Base}}};
     for (const auto& [text, ground] : roles) {
         // Greyed out it stays, as the toolkit shows what is disabled.
         for (const auto group : {QPalette::Active, QPalette::Inactive}) {
