@@ -40,8 +40,18 @@ QColor mixed(const QColor& one, const QColor& other, double part_of_other) {
                             mix(one.blueF(), other.blueF()));
 }
 
+// Only where something changes: a widget that has no place in a window yet and is shown would
+// become a window of its own.
+void show_or_hide(QWidget* widget, bool visible) {
+    const bool is_hidden = widget->testAttribute(Qt::WA_WState_ExplicitShowHide) &&
+                           widget->testAttribute(Qt::WA_WState_Hidden);
+    if (visible == is_hidden) {
+        widget->setVisible(visible);
+    }
+}
+
 void show_common(const Control& control, QWidget* widget) {
-    widget->setVisible(control.visible);
+    show_or_hide(widget, control.visible);
     widget->setEnabled(control.enabled);
     widget->setToolTip(to_qt(control.tool_tip.get()));
 }
@@ -296,7 +306,7 @@ void Binder::bind(ProgressBar& control, QProgressBar* widget) {
     const auto since_last_look = std::make_shared<QElapsedTimer>();
     since_last_look->start();
     follow(control, [this, &control, widget, since_last_look] {
-        widget->setVisible(control.visible);
+        show_or_hide(widget, control.visible);
         widget->setValue(static_cast<int>(control.value * steps / control.maximum));
         if (since_last_look->elapsed() >= frame) {
             pump_.breathe();

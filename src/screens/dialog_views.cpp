@@ -40,6 +40,7 @@ std::unique_ptr<QDialog> view_of(frmDate& form, Pump& pump, QWidget* parent) {
     auto* const end =
         day(form.lblEnd, {{&form.List4, "年"}, {&form.List5, "月"}, {&form.List6, "日"}});
     QPushButton* const ok = build.button(form.cmdOK);
+    ok->setDefault(true);
     view->setLayout(column({row({start, end}, false), build.label(form.Label6),
                             row({build.check(form.Check1), build.button(form.cmdGet_date)}),
                             build.label(form.Label7), row_at_right({ok})}));
