@@ -253,8 +253,12 @@ void Binder::bind(ListBox& control, QListWidget* widget) {
             widget->scrollToItem(widget->item(control.index));
         }
     });
-    QObject::connect(widget, &QListWidget::currentRowChanged, widget, [this, &control](int row) {
-        pump_.run([&control, row] { control.index = row; });
+    // A list that is given the focus makes its first row current, which is no choice of a person.
+    QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [this, &control, widget] {
+        const QList<QListWidgetItem*> chosen = widget->selectedItems();
+        if (!chosen.isEmpty()) {
+            pump_.run([&control, row = widget->row(chosen.front())] { control.index = row; });
+        }
     });
 }
 

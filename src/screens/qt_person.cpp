@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -97,7 +98,8 @@ std::string QtPerson::choose_file(const FileDialog& dialog) {
 }
 
 std::string QtPerson::choose_folder(std::string_view title, std::string_view start) {
-    QString folder = last_folder_;
+    // Without one the toolkit begins where any of its dialogs has been.
+    QString folder = last_folder_.isEmpty() ? QDir::currentPath() : last_folder_;
     if (!start.empty() && disk_.folder_exists(start)) {
         folder = QString::fromStdU16String(disk_.host_path(start).u16string());
     }

@@ -1,5 +1,7 @@
 #include "tests/screens/desktop_kit.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
@@ -11,6 +13,7 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "platform/code_page_932.h"
 #include "screens/slot_widgets.h"
 
 namespace veldrana {
@@ -83,10 +86,14 @@ void DesktopKit::cancel_box() {
     });
 }
 
+bool DesktopKit::has_acted_on(const QDialog* dialog) const {
+    return std::find(acted_on_.begin(), acted_on_.end(), dialog) != acted_on_.end();
+}
+
 void DesktopKit::look_for_dialog() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || dialog == acted_on_) {
-        return;  // none, or one that is just going
+    if (dialog == nullptr || has_acted_on(dialog)) {
+        return;  // none, or one that waits for another or is just going
     }
     SeenDialog shown{
         .title = dialog->windowTitle().toStdString(), .text = {}, .folder = {}, .filters = {}};
@@ -99,21 +106,28 @@ void DesktopKit::look_for_dialog() {
         }
     }
     seen.push_back(shown);
+    acted_on_.emplace_back(dialog);
     if (acts_.empty()) {
         ADD_FAILURE() << "a dialog that nobody waits for: " << shown.title << '\n' << shown.text;
         dialog->reject();
         return;
     }
-    acted_on_ = dialog;
     const auto act = acts_.front();
     acts_.pop_front();
-    try {
-        act(*dialog);
-    } catch (const std::exception& error) {
-        // Nothing that is thrown may pass through the toolkit's loop.
-        ADD_FAILURE() << shown.title << ": " << error.what();
-        dialog->reject();
-    }
+    // Not from within the timer: it does not fire while it is being handled, and what is done may
+    // bring another dialog.
+    QMetaObject::invokeMethod(
+        dialog,
+        [act, dialog, title = shown.title] {
+            try {
+                act(*dialog);
+            } catch (const std::exception& error) {
+                // Nothing that is thrown may pass through the toolkit's loop.
+                ADD_FAILURE() << title << ": " << error.what();
+                dialog->reject();
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void DesktopKit::bring_to_front(QWidget& widget) {
@@ -149,11 +163,37 @@ void DesktopKit::drag(const std::string& from, const std::string& to) {
 }
 
 void DesktopKit::type(const std::string& name, const std::string& text) {
-    auto& field = widget<QLineEdit>(name);
+    type(widget<QLineEdit>(name), text);
+}
+
+void DesktopKit::type(QLineEdit& field, const std::string& text) {
     bring_to_front(field);
     field.setFocus();
     field.selectAll();
     field.insert(QString::fromStdString(text));
+}
+
+void DesktopKit::store(const std::string& file, const std::string& key, const std::string& value) {
+    const std::string line = "\r\n" + key + "=";
+    std::string bytes = read_bytes(home() / file);
+    const std::size_t at = bytes.find(line);
+    if (at == std::string::npos) {
+        throw std::runtime_error("no key " + key);
+    }
+    const std::size_t from = at + line.size();
+    bytes.replace(from, bytes.find('\r', from) - from, to_code_page(value));
+    write_bytes(home() / file, bytes);
+}
+
+std::string DesktopKit::stored(const std::string& file, const std::string& key) const {
+    const std::string line = "\r\n" + key + "=";
+    const std::string bytes = read_bytes(home() / file);
+    const std::size_t at = bytes.find(line);
+    if (at == std::string::npos) {
+        throw std::runtime_error("no key " + key);
+    }
+    const std::size_t from = at + line.size();
+    return from_code_page(bytes.substr(from, bytes.find('\r', from) - from));
 }
 
 void DesktopKit::open(const std::string& entry, const std::filesystem::path& file) {
@@ -162,18 +202,42 @@ void DesktopKit::open(const std::string& entry, const std::filesystem::path& fil
 }
 
 std::string DesktopKit::text(const std::string& name) {
-    auto& shown = widget<QWidget>(name);
-    if (const auto* const label = qobject_cast<QLabel*>(&shown)) {
+    return text_of(widget<QWidget>(name));
+}
+
+std::string DesktopKit::text_of(const QWidget& shown) {
+    if (const auto* const label = qobject_cast<const QLabel*>(&shown)) {
         return label->text().toStdString();
     }
-    if (const auto* const field = qobject_cast<QLineEdit*>(&shown)) {
+    if (const auto* const field = qobject_cast<const QLineEdit*>(&shown)) {
         return field->text().toStdString();
     }
-    return dynamic_cast<QAbstractButton&>(shown).text().toStdString();
+    return dynamic_cast<const QAbstractButton&>(shown).text().toStdString();
 }
 
 QColor text_colour(const QWidget& widget) {
     return widget.palette().color(QPalette::Active, widget.foregroundRole());
+}
+
+namespace {
+
+// A colour may be darkened to be read, but stays far from the others.
+constexpr int far_apart = 90;
+
+}  // namespace
+
+bool is_red(const QWidget& widget) {
+    const QColor shown = text_colour(widget);
+    return shown.red() - std::max(shown.green(), shown.blue()) > far_apart;
+}
+
+bool is_blue(const QWidget& widget) {
+    const QColor shown = text_colour(widget);
+    return shown.blue() - std::max(shown.red(), shown.green()) > far_apart;
+}
+
+bool is_black(const QWidget& widget) {
+    return text_colour(widget) == QColor(Qt::black);
 }
 
 }  // namespace veldrana

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPointer>
 #include <QString>
 #include <QTimer>
@@ -72,7 +73,8 @@ class DesktopKit {
         return *found;
     }
 
-    // What is done with the dialogs that come next, one after the other.
+    // What is done with the dialogs that come next, one after the other. What is done may bring
+    // another dialog, in front of the first.
     void on_dialog(std::function<void(QDialog&)> act);
     // The next dialog asks for a file: this one is chosen; an empty path cancels.
     void choose(const std::filesystem::path& file);
@@ -91,19 +93,26 @@ class DesktopKit {
     void drag(const std::string& from, const std::string& to);
     // In the place of what stands there, as keys.
     void type(const std::string& name, const std::string& text);
+    void type(QLineEdit& field, const std::string& text);
+
+    // While the program is ended: a value of one of its settings files.
+    void store(const std::string& file, const std::string& key, const std::string& value);
+    std::string stored(const std::string& file, const std::string& key) const;
 
     // Opens a log by an entry of the menu.
     void open(const std::string& entry, const std::filesystem::path& file);
 
     // What stands on a label, a button, a field.
     std::string text(const std::string& name);
+    static std::string text_of(const QWidget& shown);
 
   private:
     void look_for_dialog();
+    bool has_acted_on(const QDialog* dialog) const;
 
     ScratchFolder scratch_;
     std::deque<std::function<void(QDialog&)>> acts_;
-    QPointer<QDialog> acted_on_;
+    std::vector<QPointer<QDialog>> acted_on_;
     QTimer timer_;
     std::optional<Desktop> desktop_;
 };
@@ -117,5 +126,10 @@ class DesktopTest : public testing::Test {
 
 // The colour of a widget's text, as it is drawn while the widget is enabled.
 QColor text_colour(const QWidget& widget);
+
+// How a person would name it.
+bool is_red(const QWidget& widget);
+bool is_blue(const QWidget& widget);
+bool is_black(const QWidget& widget);
 
 }  // namespace veldrana
