@@ -38,6 +38,7 @@ void set_out_names(Program& program) {
         screen.mnuJARL_Web_NO_conj.caption = file_name(contest);
         screen.mnuJARL_Web_NO_hamj.caption = file_name(hamlog);
 
+        screen.lblIn_name.tool_tip = log.in_name;
         screen.lblOut_name1.tool_tip = contest;
         screen.lblOut_name2.tool_tip = hamlog;
         screen.cmdDisp_contest.tool_tip = contest;

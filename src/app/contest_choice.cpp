@@ -22,7 +22,7 @@ constexpr std::size_t shortened_path_width = 49;
 void enable_by_presence(Program& program) {
     const bool there = has_dat(program) &&
                        dat_file_chk(program.stage(), dat_folders(program), program.selection.dat);
-    program.screen.enable_start(there);
+    program.screen.enable_start(there && program.log.accepted);
     program.screen.enable_dat_viewers(there);
 }
 

@@ -102,6 +102,8 @@ void mnuOpen_con_n_Click(Program& program) {
         program.log.f_type.reset();
         program.log.accepted = true;
         program.run_mode = RunMode::replacement;
+        program.screen.mnuMake_z2a.enabled = false;
+        program.screen.enable_z2a_viewers(false);
         set_out_names(program);
         check_readiness(program);
     });

@@ -1,5 +1,6 @@
 #include "app/program_end.h"
 
+#include "app/rtcl_tool.h"
 #include "app/work_files.h"
 #include "common/text.h"
 #include "platform/text_file.h"
@@ -87,6 +88,7 @@ void End_Click(Program& program) {
     });
     pass_over_failures(
         [&] { save_position(program.disk, program.paths.strPath, program.screen.window); });
+    pass_over_failures([&] { close_free_viewers(program); });
     program.screen.lblCFG.large_letters = true;
     program.screen.lblCFG.show("　　終了処理中．．．", colours::green);
     program.person.pending_events();

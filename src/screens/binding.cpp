@@ -5,6 +5,7 @@
 #include <memory>
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QHeaderView>
@@ -179,7 +180,13 @@ void Binder::bind(CheckBox& control, QCheckBox* widget) {
 }
 
 void Binder::bind(OptionGroup& control, const std::vector<QRadioButton*>& widgets) {
-    follow(control, [&control, widgets] {
+    // Arrow keys go along the group, the tabulator over it.
+    auto* const group = new QButtonGroup(widgets.front());
+    for (QRadioButton* const widget : widgets) {
+        group->addButton(widget);
+    }
+    follow(control, [&control, widgets, group] {
+        group->setExclusive(false);  // the only way to leave none of them checked
         const std::vector<OptionGroup::Button>& buttons = control.buttons.get();
         for (std::size_t i = 0; i < widgets.size() && i < buttons.size(); ++i) {
             QRadioButton* const widget = widgets[i];
@@ -188,16 +195,14 @@ void Binder::bind(OptionGroup& control, const std::vector<QRadioButton*>& widget
             widget->setText(caption_of(buttons[i].caption));
             colour_text(widget, buttons[i].fore_colour);
             const QSignalBlocker quiet(widget);
-            const bool chosen = control.index == static_cast<int>(i);
-            // The only way to leave none of a group checked.
-            widget->setAutoExclusive(false);
-            widget->setChecked(chosen);
+            widget->setChecked(control.index == static_cast<int>(i));
         }
+        group->setExclusive(true);
     });
     for (std::size_t i = 0; i < widgets.size(); ++i) {
         QObject::connect(widgets[i], &QRadioButton::clicked, widgets[i], [this, &control, i] {
             pump_.run([&control, i] { control.index = static_cast<int>(i); });
-            control.listener();  // a click on the chosen one must not take it off
+            control.listener();  // where the form has chosen otherwise
         });
     }
 }

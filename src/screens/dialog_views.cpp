@@ -22,6 +22,7 @@ namespace {
 std::unique_ptr<QDialog> view_of(frmDate& form, Pump& pump, QWidget* parent) {
     auto view = std::make_unique<FormView>(form, pump, parent);
     ViewBuilder& build = view->build;
+    view->leave = [&form] { form.leave(); };
     const auto day = [&build](Label& title,
                               std::initializer_list<std::pair<ListBox*, QString>> lists) {
         auto* const table = new QGridLayout;
@@ -85,14 +86,14 @@ std::unique_ptr<QDialog> view_of(frmCon_sel& form, Pump& pump, QWidget* parent) 
     int place = 0;
     for (const auto& [title, label] : names) {
         facts->addWidget(caption(title), place, 0);
-        facts->addWidget(build.label(*label), place++, 1);
+        facts->addWidget(build.path_label(*label), place++, 1);
     }
     facts->setColumnStretch(1, 1);
 
     view->setLayout(column({
         row_with_wide(1, {caption("入力"), build.path_label(form.lblIn_name)}),
         lists,
-        row({caption("ナンバーの形"), build.label(form.lblC_key)}),
+        row_with_wide(1, {caption("ナンバーの形"), build.path_label(form.lblC_key)}),
         box("選択したコンテスト", facts),
         build.label(form.lblMsg1),
         build.label(form.lblMsg2),

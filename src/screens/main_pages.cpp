@@ -282,7 +282,7 @@ QWidget* MainWindow::make_start() {
     auto* const state = new QVBoxLayout;
     state->addStretch();
     state->addWidget(build_.label(screen_.lblCFG));
-    state->addWidget(build_.label(screen_.lblMsg));
+    state->addWidget(build_.path_label(screen_.lblMsg));
     state->addStretch();
     auto* const panel = new QWidget;
     auto* const layout = new QHBoxLayout;

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -30,6 +31,17 @@ class WholeWidthArea : public QScrollArea {
     }
     QSize sizeHint() const override { return widget()->sizeHint(); }
 };
+
+// The one file of this computer that is dropped; nothing if it is something else, or while a dialog
+// waits for its answer.
+QString dropped_log(const QDropEvent& event) {
+    const QList<QUrl> urls = event.mimeData()->urls();
+    if (urls.size() != 1 || QApplication::activeModalWidget() != nullptr) {
+        return {};
+    }
+    const QString file = urls.front().toLocalFile();
+    return QFileInfo(file).isFile() ? file : QString();
+}
 
 // A head of a menu, bound to its entry.
 QMenu* bound_head(ViewBuilder& build, QMenu* head, MenuEntry& entry) {
@@ -174,38 +186,50 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.front().isLocalFile()) {
+    if (!dropped_log(*event).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    if (event->mimeData()->urls().isEmpty()) {
+    const QString file = dropped_log(*event);
+    if (file.isEmpty()) {
         return;
     }
-    const QString file = event->mimeData()->urls().front().toLocalFile();
     event->acceptProposedAction();
-    pump_.run([&] { program_.event([&] { open_log(program_, person_.program_path(file)); }); });
+    // Not before the drop is over: the program it comes from waits for that.
+    QTimer::singleShot(0, this, [this, file] {
+        pump_.run([&] { program_.event([&] { open_log(program_, person_.program_path(file)); }); });
+    });
 }
 
 void MainWindow::look_under_pointer() {
     if (pump_.busy() || QApplication::activeModalWidget() != nullptr) {
         return;
     }
+    // Slots that are scrolled out of sight, or under another window, are not pointed at.
+    constexpr QPoint nowhere(-10000, -10000);
+    QPoint pointer = QCursor::pos();
+    const QWidget* const under = QApplication::widgetAt(pointer);
+    if (under == nullptr || under->window() != this) {
+        pointer = nowhere;
+    }
     SlotRectangles slots;
-    const auto take = [this](const RemarkSlots& labels, SlotRectangles::Row& row) {
+    const auto take = [&](const RemarkSlots& labels, SlotRectangles::Row& row) {
         for (std::size_t i = 0; i < remark_slot_count; ++i) {
             const auto* const widget = findChild<QLabel*>(to_qt(labels[i].name()));
             const QPoint place = widget->mapToGlobal(QPoint(0, 0));
             row.left[i] = place.x();
             row.top = place.y();
             row.bottom = place.y() + widget->height();
+            // The hit of a slot is narrower than the slot is here: all of it counts.
+            if (under == widget) {
+                pointer.setX(place.x());
+            }
         }
     };
     take(screen_.lblRmks1, slots.rmks1);
     take(screen_.lblRmks2, slots.rmks2);
-    const QPoint pointer = QCursor::pos();
     pump_.run([&] {
         program_.event([&] { show_length_at(program_, slots, pointer.x(), pointer.y()); });
     });

@@ -31,6 +31,7 @@ class Pump::Deaf : public QObject {
             case QEvent::KeyRelease:
             case QEvent::ShortcutOverride:
             case QEvent::Shortcut:
+            case QEvent::InputMethod:
             case QEvent::ContextMenu:
             case QEvent::DragEnter:
             case QEvent::DragMove:

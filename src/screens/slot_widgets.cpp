@@ -79,7 +79,8 @@ void SlotWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SlotWidget::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasFormat(item_format)) {
+    const bool dialog_waits = QApplication::activeModalWidget() != nullptr;
+    if (event->mimeData()->hasFormat(item_format) && !dialog_waits) {
         event->acceptProposedAction();
     }
 }
@@ -104,7 +105,9 @@ ItemWidget::ItemWidget(ItemButton& button) : button_(button) {
         constexpr int light = 205;
         QPalette shown = usual;
         if (button_.in_use) {
-            shown.setColor(QPalette::Button, QColor(light - 45, light + 15, 255));
+            const QColor light_blue(light - 45, light + 15, 255);
+            shown.setColor(QPalette::Button, light_blue);
+            shown.setColor(QPalette::ButtonText, readable(colours::black, light_blue));
         }
         setPalette(shown);
     };

@@ -8,6 +8,13 @@
 #include "screens/fonts.h"
 
 namespace veldrana {
+namespace {
+
+// Characters of a line that are drawn. Only what is no text has longer ones, and drawing those
+// would take long at each look.
+constexpr int longest_shown = 20000;
+
+}  // namespace
 
 class TextView::Lines : public QAbstractListModel {
   public:
@@ -21,7 +28,7 @@ class TextView::Lines : public QAbstractListModel {
         if (role != Qt::DisplayRole || !index.isValid()) {
             return {};
         }
-        return to_qt(text_.line(static_cast<std::size_t>(index.row())));
+        return to_qt(text_.line(static_cast<std::size_t>(index.row()))).left(longest_shown);
     }
 
     void reload() {
@@ -45,7 +52,8 @@ class LineDelegate : public QStyledItemDelegate {
                    const QModelIndex& /*index*/) const override {
         const int column =
             std::max(metrics_.horizontalAdvance(u'0'), metrics_.horizontalAdvance(u'漢') / 2 + 1);
-        return {static_cast<int>(text_.widest()) * column + ListBoxHS::margin, metrics_.height()};
+        const int widest = static_cast<int>(std::min<std::size_t>(text_.widest(), longest_shown));
+        return {widest * column + ListBoxHS::margin, metrics_.height()};
     }
 
   private:

@@ -1,6 +1,7 @@
 #include "screens/view_builder.h"
 
-#include <QResizeEvent>
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace veldrana {
 namespace {
@@ -14,6 +15,13 @@ class ElidingLabel : public QLabel {
     }
 
   protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+            return true;
+        }
+        return QLabel::event(event);
+    }
     void paintEvent(QPaintEvent* event) override {
         const QString whole = text();
         const QString shown =
@@ -24,6 +32,7 @@ class ElidingLabel : public QLabel {
         }
         QLabel cut;
         cut.setPalette(palette());
+        cut.setEnabled(isEnabled());
         cut.setFont(font());
         cut.setAttribute(Qt::WA_NoSystemBackground);
         cut.resize(size());
@@ -79,6 +88,7 @@ std::vector<QRadioButton*> ViewBuilder::radios(OptionGroup& control) {
 
 QLineEdit* ViewBuilder::edit(TextBox& control, int characters) {
     auto* const widget = named(new QLineEdit, control);
+    widget->setAcceptDrops(false);  // a file that is dropped is for the window
     if (characters > 0) {
         const int width = widget->fontMetrics().horizontalAdvance(QString(characters, u'M'));
         widget->setFixedWidth(width + widget->fontMetrics().averageCharWidth() * 3);

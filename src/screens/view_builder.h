@@ -25,7 +25,8 @@ class ViewBuilder {
     explicit ViewBuilder(Pump& pump) : pump_(pump), binder_(pump) {}
 
     QLabel* label(Label& control);
-    // A label that shows as much of its text as there is room for, and all of it as its tool tip.
+    // A label that shows as much of its text as there is room for; all of it is its tool tip,
+    // unless the control has one.
     QLabel* path_label(Label& control);
     QCheckBox* check(CheckBox& control);
     std::vector<QRadioButton*> radios(OptionGroup& control);

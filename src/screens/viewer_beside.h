@@ -17,6 +17,8 @@ class ViewerBeside : public FormView {
 
     FreeViewer& form_;
     TextView* text_;
+    // The caption of what is shown: it changes with each file that is loaded.
+    std::string shown_;
 };
 
 }  // namespace veldrana

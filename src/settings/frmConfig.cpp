@@ -328,10 +328,12 @@ void frmConfig::chkNo_Click(MasterEntry& master) {
     const bool unused = master.unused.value;
     TextBox& box = master.path.text;
     if (unused) {
-        master.kept = box.text;
+        if (box.text.get() != not_used) {
+            master.kept = box.text.get();
+        }
         box.text = std::string(not_used);
     } else {
-        box.text = master.kept;
+        box.text = master.kept.value_or(std::string());
     }
     box.enabled = !unused;
     master.path.browse.enabled = !unused;
@@ -351,7 +353,7 @@ void frmConfig::chkNo_qth_Click() {
 
 void frmConfig::chkNo_yubin_Click() {
     chkNo_Click(yubin_master_);
-    if (!chkNo_yubin.value) {
+    if (!chkNo_yubin.value && yubin_master_.kept) {
         txtYubin_mas.text = tidied_yubin_mas_dir(txtYubin_mas.text.get());
     }
 }

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "common/controls.h"
@@ -121,7 +122,8 @@ class frmConfig : public WindowForm {
         PathEntry& path;
         CheckBox& unused;
         bool MastersInUse::*in_use;
-        std::string kept = {};  // the text from before it was told to be of no use
+        // The text from before it was told to be of no use; nothing where the load has told so.
+        std::optional<std::string> kept = {};
         bool taken_up = false;  // it was of no use before
     };
 

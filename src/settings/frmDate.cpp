@@ -74,6 +74,8 @@ frmDate::frmDate(SettingsStore& settings, Disk& disk, Clock& clock, std::string 
     options.End_date =
         options.End_date.empty() ? settings_.today() : without_separators(options.End_date);
     end_ = {year_of(options.End_date), month_of(options.End_date), day_of(options.End_date)};
+    Start_date_before_ = options.Start_date;
+    End_date_before_ = options.End_date;
     Check1.value = settings_.end_follows_clock();
     select_rows(parts_of_start);
     select_rows(parts_of_end);
@@ -131,6 +133,13 @@ void frmDate::cmdOK_Click() {
         period_changed();
     }
     settings_.write_Veldrana_new_ini();
+    window.visible = false;
+}
+
+void frmDate::leave() {
+    settings_.options.Start_date = Start_date_before_;
+    settings_.options.End_date = End_date_before_;
+    save_position(disk_, strPath_, window);
     window.visible = false;
 }
 

@@ -36,6 +36,9 @@ struct frmDate : WindowForm {
     Label Label6{*this, "Label6", "変更したら必ず確定するために青地に白抜きにすること"};
     Label Label7{*this, "Label7"};
 
+    // Leaves without taking a period over: one that was refused goes back to that of the load.
+    void leave();
+
     // Runs when a period was taken over, before it is saved and the window goes.
     std::function<void()> period_changed;
 
@@ -63,6 +66,8 @@ struct frmDate : WindowForm {
     Disk& disk_;
     Clock& clock_;
     std::string strPath_;
+    std::string Start_date_before_;
+    std::string End_date_before_;
     Day start_;
     Day end_;
     std::array<Part, 6> parts_;

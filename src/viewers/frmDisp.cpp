@@ -10,7 +10,9 @@ frmDisp::frmDisp(Disk& disk, std::string strPath, std::string name)
 }
 
 void frmDisp::Form_Load(std::string_view disp_name) {
-    load_position(disk_, strPath_, window);
+    if (!window.visible) {
+        load_position(disk_, strPath_, window);
+    }
     text_ = ViewedText(disk_, disp_name);
     disp_name_ = disp_name;
     window.caption = disp_name_;

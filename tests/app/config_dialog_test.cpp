@@ -532,6 +532,7 @@ TEST_F(DialogOfTheMenu, MastersThatCanBeUsedNowAreTakenUp) {
 TEST_F(DialogOfTheMenu, TickThatIsNotSavedLastsForTheRun) {
     fill_in([](frmConfig& form) {
         form.chkNo_qth.value = false;
+        form.txtQth_mas.text = "C:\\mas\\qth_mas.txt";
         form.cmdOK.press();
     });
     press();

@@ -409,8 +409,10 @@ TEST_F(ContestScreen, ManualWayAsksInTheFolderOfTheDataFiles) {
     kit.widget<QAction>("mnuOpenDat_mnu").trigger();
     ASSERT_THAT(kit.seen, SizeIs(1));
     EXPECT_EQ(kit.seen[0].title, "C:\\ZLOG\\　の ＊．ｄａｔ ファイルを  開く ....");
-    EXPECT_THAT(kit.seen[0].filters,
-                ElementsAre("手動用個別ＤＡＴファイル (*.dat *.DAT *.mas *.MAS *.mst *.MST)"));
+    EXPECT_THAT(
+        kit.seen[0].filters,
+        ElementsAre(
+            "手動用個別ＤＡＴファイル(*.dat;*.mas;*.mst) (*.dat *.DAT *.mas *.MAS *.mst *.MST)"));
     EXPECT_EQ(fs::path(kit.seen[0].folder), kit.drive() / "zlog");
     EXPECT_THAT(kit.text("lblDatName"), EndsWith("field.dat"));
     EXPECT_TRUE(kit.widget<QPushButton>("cmdStart").isEnabled());

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
+#include <QTest>
 
 #include "app/program_end.h"
 #include "tests/screens/desktop_kit.h"
@@ -115,24 +116,59 @@ TEST_F(DesktopScreen, LogDroppedOnTheWindowIsOpened) {
         EXPECT_TRUE(enter.isAccepted());
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&kit.window(), &drop);
+        QApplication::processEvents();  // the log is opened when the drop is over
         EXPECT_THAT(kit.text("lblIn_name"), testing::EndsWith(log));
     }
 }
 
 TEST_F(DesktopScreen, OnlyOneFileOfThisComputerCanBeDropped) {
+    const auto local = [](const fs::path& path) {
+        return QUrl::fromLocalFile(QString::fromStdString(path.string()));
+    };
     QMimeData two;
-    two.setUrls({QUrl::fromLocalFile("/a.all"), QUrl::fromLocalFile("/b.all")});
+    two.setUrls({local(kit.log("allja_sample.all")), local(kit.log("zlo_sample.zlo"))});
+    QMimeData folder;
+    folder.setUrls({local(kit.drive() / "logs")});
+    QMimeData gone;
+    gone.setUrls({local(kit.log("gone.all"))});
     QMimeData far;
     far.setUrls({QUrl("https://example.com/a.all")});
     QMimeData text;
     text.setText("a.all");
-    for (const QMimeData* const data : {&two, &far, &text}) {
+    for (const QMimeData* const data : {&two, &folder, &gone, &far, &text}) {
         QDragEnterEvent enter(QPoint(20, 100), Qt::CopyAction, data, Qt::LeftButton,
                               Qt::NoModifier);
         enter.ignore();
         QApplication::sendEvent(&kit.window(), &enter);
         EXPECT_FALSE(enter.isAccepted());
     }
+}
+
+TEST_F(DesktopScreen, NothingIsDroppedBehindADialog) {
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(QString::fromStdString(kit.log("allja_sample.all").string()))});
+    bool accepted = true;
+    kit.on_dialog([&](QDialog& dialog) {
+        QDragEnterEvent enter(QPoint(20, 100), Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(&kit.window(), &enter);
+        accepted = enter.isAccepted();
+        dialog.reject();
+    });
+    kit.widget<QPushButton>("cmdDate").click();
+    EXPECT_FALSE(accepted);
+}
+
+TEST_F(DesktopScreen, ArrowKeysGoAlongAGroupOfOptions) {
+    auto& first = kit.widget<QRadioButton>("Option08(0)");
+    kit.bring_to_front(first);
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Right);
+    EXPECT_EQ(kit.screen().Option08.index, 1);
+    EXPECT_TRUE(kit.widget<QRadioButton>("Option08(1)").isChecked());
+    EXPECT_FALSE(first.isChecked());
 }
 
 TEST_F(DesktopScreen, LogOpenedBeforeIsOpenedAgainFromTheMenu) {

@@ -36,24 +36,26 @@ struct Entry {
 
 const Entry entries[] = {
     {"lblZlog_dat", "フォルダ　：　 個別　＊．DAT ﾌｧｲﾙ", "txtZlog_dat", "cmdZlog_dat",
-     "zlog_dat_dir", "zLog 用 個別 DAT ﾌｧｲﾙ (*.dat *.DAT)", "other/a.dat", "C:\\other\\"},
+     "zlog_dat_dir", "zLog 用 個別 DAT ﾌｧｲﾙ (*.dat) (*.dat *.DAT)", "other/a.dat", "C:\\other\\"},
     {"lblName_mas", "フォルダ　：　NAME_MAS．TXT", "txtName_mas", "cmdName_mas", "name_mas_dir",
-     "name_mas.txt (name_mas.txt NAME_MAS.TXT name_mas?.txt NAME_MAS?.TXT)", "other/name_mas.txt",
-     "C:\\other\\"},
+     "name_mas.txt (name_mas.txt;name_mas?.txt) (name_mas.txt NAME_MAS.TXT name_mas?.txt "
+     "NAME_MAS?.TXT)",
+     "other/name_mas.txt", "C:\\other\\"},
     {"lblQth_mas", "ファイル　：　  QTH_MAS．TXT", "txtQth_mas", "cmdQth_mas", "qth_mas_dir",
-     "qth_mas.txt (qth_mas.txt QTH_MAS.TXT)", "other/qth_mas.txt", "C:\\other\\qth_mas.txt"},
+     "qth_mas.txt (qth_mas.txt) (qth_mas.txt QTH_MAS.TXT)", "other/qth_mas.txt",
+     "C:\\other\\qth_mas.txt"},
     {"lblYUbin_mas", "フォルダ　：　YUBIN_M？．MAS", "txtYubin_mas", "cmdYubin_mas",
      "yubin_mas_dir", "", "other", "C:\\other\\"},
     {"lblHamlog_hdb", "ファイル　：　ハムログの ＊．hｄｂ　常用", "txtHamlog_hdb", "cmdHamlog_hdb",
-     "hamlog_hdb_dir", "Hamlog の *.hdb ﾌｧｲﾙ 常用 (*.hdb *.HDB)", "other/a.hdb",
+     "hamlog_hdb_dir", "Hamlog の *.hdb ﾌｧｲﾙ 常用 (*.hdb) (*.hdb *.HDB)", "other/a.hdb",
      "C:\\other\\a.hdb"},
     {"lblHamlog_hdb_2", "ファイル　：　ハムログの ＊．hｄｂ　印刷用", "txtHamlog_hdb_2",
-     "cmdHamlog_hdb_2", "hamlog_hdb_2_dir", "Hamlog の *.hdb ﾌｧｲﾙ 印刷用 (*.hdb *.HDB)",
+     "cmdHamlog_hdb_2", "hamlog_hdb_2_dir", "Hamlog の *.hdb ﾌｧｲﾙ 印刷用 (*.hdb) (*.hdb *.HDB)",
      "other/a.hdb", "C:\\other\\a.hdb"},
     {"lblZloDir", "フォルダ　：　 拡張子 ＺＬＯ ファイル", "txtZloDir", "cmdGetZloDir", "zlo_dir",
-     "zLog の ﾊﾞｲﾅﾘｰ･ﾌｧｲﾙ (*.zlo *.ZLO)", "other/a.zlo", "C:\\other\\"},
+     "zLog の ﾊﾞｲﾅﾘｰ･ﾌｧｲﾙ (*.zlo) (*.zlo *.ZLO)", "other/a.zlo", "C:\\other\\"},
     {"lblAllDir", "フォルダ　：　 拡張子 ALL , TXT ﾌｧｲﾙ", "txtAllDir", "cmdGetAllDir", "all_dir",
-     "zLog の ﾃｷｽﾄ･ﾌｧｲﾙ (*.all *.ALL *.txt *.TXT)", "other/a.all", "C:\\other\\"},
+     "zLog の ﾃｷｽﾄ･ﾌｧｲﾙ (*.all;*.txt) (*.all *.ALL *.txt *.TXT)", "other/a.all", "C:\\other\\"},
 };
 
 // A master that a station may do without.

@@ -46,13 +46,13 @@ const Typed environment[] = {
     {"txtPassWords", "sample"},
 };
 
-class FirstStart : public testing::Test {
+class EmptyFolder : public testing::Test {
   protected:
-    FirstStart() { empty(kit.home()); }
+    EmptyFolder() { empty(kit.home()); }
     DesktopKit kit;
 };
 
-TEST_F(FirstStart, EmptyFolderToBothResultFilesInTheWindow) {
+TEST_F(EmptyFolder, LeadsToBothResultFilesInTheWindow) {
     kit.on_dialog([](QDialog& dialog) {
         EXPECT_EQ(dialog.objectName(), "frmConfig");
         EXPECT_FALSE(DesktopKit::part<QPushButton>(dialog, "cmdOK").isEnabled());
@@ -89,7 +89,7 @@ TEST_F(FirstStart, EmptyFolderToBothResultFilesInTheWindow) {
 
 // Runs a copy of the built program that lies in the folder, with a person who does the steps. What
 // it says on standard error; its exit status must be 0.
-class BuiltProgram : public FirstStart {
+class BuiltProgram : public EmptyFolder {
   protected:
     BuiltProgram() {
         std::error_code no_link;

@@ -514,15 +514,15 @@ TEST_P(EachMaster, TakingTheTickOffBringsTheTextBack) {
     EXPECT_TRUE(in_use());
 }
 
-// What stood there before is the word itself.
-TEST_P(EachMaster, TakingOffATickOfTheLoadLeavesTheWord) {
+// No text was stored that could come back.
+TEST_P(EachMaster, TakingOffATickOfTheLoadBringsBackAnEmptyText) {
     value() = unused;
     open();
     check_box().value = false;
-    EXPECT_EQ(text_box().text.get(), unused);
+    EXPECT_EQ(text_box().text.get(), "");
     EXPECT_TRUE(text_box().enabled);
     EXPECT_TRUE(in_use());
-    EXPECT_TRUE(is_black(label()));
+    EXPECT_FALSE(is_black(label()));
 }
 
 TEST_P(EachMaster, IsStoredAsTheWordWhileItIsTicked) {

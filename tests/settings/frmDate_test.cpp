@@ -370,6 +370,17 @@ TEST_F(FrmDateWrong, IsTold) {
     EXPECT_EQ(form->Label7.caption.get(), "日付けの設定エラーです。 抽出開始 ＞ 抽出終了");
 }
 
+TEST_F(FrmDateWrong, GoesBackToThePeriodBeforeWhenTheDialogIsLeft) {
+    form->window.placement =
+        WindowPlacement{.state = 0, .left = 10, .top = 20, .width = 300, .height = 400};
+    form->leave();
+    EXPECT_EQ(settings.options.Start_date, "20200131");
+    EXPECT_EQ(settings.options.End_date, "20210228");
+    EXPECT_FALSE(form->window.visible);
+    EXPECT_EQ(ProfileFile(disk, folder + "Veldrana_posi.ini").value("Position_frmDate", "Left"),
+              "10");
+}
+
 TEST_F(FrmDateWrong, LeavesTheDialogOpen) {
     EXPECT_TRUE(form->window.visible);
 }
