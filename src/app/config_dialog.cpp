@@ -33,7 +33,9 @@ void run_environment_dialog(Program& program) {
     }
     EnvironmentSettings& environment = program.settings.environment;
     const EnvironmentSettings typed = environment;
-    Main2_bas_2(program);
+    // The files are there, or the dialog would have ended the program. The last step of a start
+    // without the dialog is left out here.
+    show_main_screen(program);
     // What was typed and not saved lasts for this run, although the load reads the file.
     environment.MyCalls = typed.MyCalls;
     environment.PassWords = typed.PassWords;
