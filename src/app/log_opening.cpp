@@ -54,6 +54,10 @@ void take_log(Program& program, const std::string& path) {
     log.in_name = path;
     program.run_mode = RunMode::conversion;
     kettuka_disp_clear(program.counters, screen);
+    // The count is that of the log before, until this one has been counted.
+    log.record_count.clear();
+    screen.lblIn_rec.caption = "";
+    screen.lblIn_rec_count.caption = "";
     set_out_names(program);
 }
 

@@ -278,7 +278,6 @@ void Binder::bind(TabControl& control, QTabWidget* widget) {
 }
 
 void Binder::bind(Grid& control, QTableWidget* widget) {
-    constexpr int twips_of_a_pixel = 15;
     const auto columns = static_cast<int>(control.column_widths().size());
     widget->setRowCount(static_cast<int>(control.rows()));
     widget->setColumnCount(columns);

@@ -22,6 +22,9 @@
 
 namespace veldrana {
 
+// Forms measure in twips.
+constexpr int twips_of_a_pixel = 15;
+
 QString to_qt(std::string_view text);
 std::string from_qt(const QString& text);
 

@@ -219,7 +219,6 @@ std::unique_ptr<QDialog> view_of(frmConfig& form, Pump& pump, QWidget* parent) {
         0, {column({build.label(form.lblMsg), build.label(form.lblMsg2)}),
             build.button(form.cmdSave), build.button(form.cmdOK), build.button(form.cmdEnd)}));
     view->setLayout(whole);
-    constexpr int twips_of_a_pixel = 15;
     const QSize least(frmConfig::least_width / twips_of_a_pixel,
                       frmConfig::least_height / twips_of_a_pixel);
     view->setMinimumSize(least.expandedTo(view->minimumSizeHint()));

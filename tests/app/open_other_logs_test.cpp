@@ -266,6 +266,15 @@ TEST_F(OpenOtherLogs, RefusedLogIsNotMadeATextOf) {
     }
 }
 
+TEST_F(OpenOtherLogs, CountOfTheLogBeforeDoesNotStandBesideTheNext) {
+    choose(screen.mnuOpen_cbr, "C:\\log\\x.cbr");
+    ASSERT_NE(screen.lblIn_rec.caption.get(), "");
+    kit.put_text("C:\\log\\t.all", sample_all_log);
+    kit.open("C:\\log\\t.all");
+    EXPECT_EQ(screen.lblIn_rec.caption.get(), "");
+    EXPECT_EQ(program.log.record_count, "");
+}
+
 TEST_F(OpenOtherLogs, BothWaysToAContestAreThereAgainBehindABinaryLog) {
     screen.Option02.index = 2;
     choose(screen.mnuOpen_z, "C:\\log\\x.zlo");
