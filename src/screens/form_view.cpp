@@ -2,8 +2,6 @@
 
 #include <QCloseEvent>
 
-#include "screens/window_place.h"
-
 namespace veldrana {
 
 FormView::FormView(WindowForm& form, Pump& pump, QWidget* parent)
@@ -31,7 +29,9 @@ void FormView::place(const QSize& usual) {
     if (const auto& placement = form_.window.placement.get()) {
         put(*this, *placement);
     }
-    placed_ = true;
+    if (place_ == nullptr) {
+        place_ = std::make_unique<PlaceTeller>(*this, form_.window);
+    }
 }
 
 void FormView::reject() {
@@ -47,29 +47,6 @@ void FormView::reject() {
 void FormView::closeEvent(QCloseEvent* event) {
     event->ignore();
     reject();
-}
-
-void FormView::moveEvent(QMoveEvent* event) {
-    QDialog::moveEvent(event);
-    tell_placement();
-}
-
-void FormView::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    tell_placement();
-}
-
-void FormView::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) {
-        tell_placement();
-    }
-}
-
-void FormView::tell_placement() {
-    if (placed_) {
-        form_.window.placement = placement_of(*this);
-    }
 }
 
 }  // namespace veldrana

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QDialog>
 
 #include "screens/view_builder.h"
+#include "screens/window_place.h"
 
 namespace veldrana {
 
@@ -27,15 +29,11 @@ class FormView : public QDialog {
   protected:
     void reject() override;
     void closeEvent(QCloseEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
   private:
-    void tell_placement();
-
     WindowForm& form_;
-    bool placed_ = false;
+    // Nothing before the window has been placed.
+    std::unique_ptr<PlaceTeller> place_;
 };
 
 }  // namespace veldrana

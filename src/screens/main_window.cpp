@@ -15,7 +15,6 @@
 #include "app/open_other_logs.h"
 #include "app/program_end.h"
 #include "app/slot_lengths.h"
-#include "screens/window_place.h"
 
 namespace veldrana {
 namespace {
@@ -145,35 +144,12 @@ void MainWindow::follow_window() {
             if (const auto& placement = window.placement.get()) {
                 put(*this, *placement);
             }
-            placed_ = true;
+            place_ = std::make_unique<PlaceTeller>(*this, screen_.window);
             show();
         }
     };
     follow();
     screen_.window.listener = follow;
-}
-
-void MainWindow::tell_placement() {
-    if (placed_) {
-        screen_.window.placement = placement_of(*this);
-    }
-}
-
-void MainWindow::moveEvent(QMoveEvent* event) {
-    QMainWindow::moveEvent(event);
-    tell_placement();
-}
-
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    tell_placement();
-}
-
-void MainWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) {
-        tell_placement();
-    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -1,12 +1,15 @@
 // Owns the main window: the main screen's controls, laid out. Nothing is decided here.
 #pragma once
 
+#include <memory>
+
 #include <QMainWindow>
 #include <QTimer>
 
 #include "app/program.h"
 #include "screens/qt_person.h"
 #include "screens/view_builder.h"
+#include "screens/window_place.h"
 
 namespace veldrana {
 
@@ -18,9 +21,6 @@ class MainWindow : public QMainWindow {
   protected:
     // Ends the program in order; while a run goes on the window stays.
     void closeEvent(QCloseEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
     // A log that is dropped on the window goes the way of its menu entry.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -42,7 +42,6 @@ class MainWindow : public QMainWindow {
     QWidget* make_remarks();
     QWidget* make_start();
     void follow_window();
-    void tell_placement();
     void look_under_pointer();
 
     Program& program_;
@@ -51,7 +50,7 @@ class MainWindow : public QMainWindow {
     Pump& pump_;
     ViewBuilder build_;
     QTimer pointer_timer_;
-    bool placed_ = false;
+    std::unique_ptr<PlaceTeller> place_;
 };
 
 }  // namespace veldrana

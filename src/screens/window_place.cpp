@@ -31,4 +31,21 @@ WindowPlacement placement_of(const QWidget& window) {
     return placement;
 }
 
+PlaceTeller::PlaceTeller(QWidget& widget, Window& window) : widget_(widget), window_(window) {
+    widget.installEventFilter(this);
+}
+
+bool PlaceTeller::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowStateChange:
+            window_.placement = placement_of(widget_);
+            break;
+        default:
+            break;
+    }
+    return false;
+}
+
 }  // namespace veldrana
