@@ -9,9 +9,13 @@ program=$(realpath "${2:-build/bin/veldrana}")
 plugins=$(realpath "${3:-build/release/plugins}")
 mkdir -p "$pictures"
 
-# A path that reads well in the pictures.
-work=/tmp/veldrana-pictures
-mkdir "$work"
+if [ $# -gt 0 ]; then
+    # No dot in the name: the dupe list is named by what stands before the first one.
+    work=$(mktemp -d /tmp/veldrana-XXXXXX)
+else
+    work=/tmp/veldrana-pictures  # it reads well in the pictures
+    mkdir "$work"
+fi
 trap 'rm -rf "$work"' EXIT
 cp -r samples/{veldrana,mas,yubin,zlog,hamlog,logs} "$work"
 cp "$program" "$work/veldrana/"
