@@ -12,16 +12,18 @@ ViewerBeside::ViewerBeside(FreeViewer& form, Pump& pump)
 
 void ViewerBeside::follow() {
     const Window& window = form_.window;
+    if (!window.visible) {
+        shown_.clear();
+        hide();
+        return;
+    }
     if (shown_ != window.caption.get()) {
         shown_ = window.caption;
         setWindowTitle(to_qt(shown_).trimmed());
         text_->reload();
         raise();
     }
-    if (!window.visible) {
-        shown_.clear();
-        hide();
-    } else if (!isVisible()) {
+    if (!isVisible()) {
         place(QSize(760, 520));
         show();
     }

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -37,6 +38,16 @@ TEST_F(PumpTest, WhatIsPressedDuringAnActionIsLost) {
     EXPECT_FALSE(pump.busy());
     press();
     EXPECT_EQ(presses, 2);
+}
+
+TEST_F(PumpTest, WhatAnInputMethodBringsDuringAnActionIsLost) {
+    QLineEdit field;
+    QInputMethodEvent typed;
+    typed.setCommitString("漢字");
+    pump.run([&] { QApplication::sendEvent(&field, &typed); });
+    EXPECT_EQ(field.text(), "");
+    QApplication::sendEvent(&field, &typed);
+    EXPECT_EQ(field.text(), "漢字");
 }
 
 // The toolkit holds it back until the action is done; by then it must be gone.

@@ -217,6 +217,24 @@ TEST_F(FreeViewersScreen, AreUsedBesideTheToolThatWaits) {
     EXPECT_NE(box.isChecked(), before);
 }
 
+// The list asks for its lines anew, or it would go on showing those of the former text.
+TEST_F(FreeViewersScreen, OneThatIsOpenFollowsToItsFileAsItIsNow) {
+    use_tool([this](QDialog& tool) {
+        make_texts(tool);
+        show_all(tool);
+        ASSERT_TRUE(is_open("frmDisp4"));
+        write_bytes(kit.log("rtcl_v4_sample_log2z.all"), "one\r\n");
+        int resets = 0;
+        auto* const lines = DesktopKit::part<QListView>(*beside("frmDisp4"), "List1").model();
+        const auto counting =
+            QObject::connect(lines, &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+        DesktopKit::part<QAction>(tool, "mnuOutFile_all").trigger();
+        QObject::disconnect(counting);
+        EXPECT_GT(resets, 0);
+        EXPECT_THAT(lines_of(*beside("frmDisp4")), ElementsAre("one"));
+    });
+}
+
 TEST_F(FreeViewersScreen, OneThatWasClosedShowsItsFileAnew) {
     use_tool([this](QDialog& tool) {
         make_texts(tool);
